@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+namespace velk::xml {
+inline namespace v3 {
+
+// A CDATA section: saved as <![CDATA[...]]>, its contents are not escaped.
+class cdata_section {
+public:
+    explicit cdata_section(std::string const& contents) : contents_(contents) {}
+    std::string const& get_contents() const { return contents_; }
+    void set_contents(std::string const& contents) { contents_ = contents; }
+
+private:
+    std::string contents_;
+};
+
+}  // namespace v3
+}  // namespace velk::xml

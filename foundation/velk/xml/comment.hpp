@@ -1,0 +1,19 @@
+#pragma once
+
+#include <string>
+
+namespace velk::xml {
+inline namespace v3 {
+
+// A comment, kept so that a parsed tree saves as it came.
+class comment {
+public:
+    explicit comment(std::string const& contents) : contents_(contents) {}
+    std::string const& get_contents() const { return contents_; }
+
+private:
+    std::string contents_;
+};
+
+}  // namespace v3
+}  // namespace velk::xml

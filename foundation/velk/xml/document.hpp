@@ -1,0 +1,48 @@
+#pragma once
+
+#include <velk/core/byte_array.hpp>
+#include <velk/core/result/stack.hpp>
+#include <velk/xml/element.hpp>
+
+#include <memory>
+
+namespace velk::xml {
+inline namespace v3 {
+
+// An XML document: at most one root element.
+class document {
+public:
+    document();
+    document(document const& other);
+    document(document&& other) noexcept;
+    document& operator=(document const& other);
+    document& operator=(document&& other) noexcept;
+    ~document();
+
+    // Parses bytes into the tree, replacing what the document held. Whitespace
+    // text is kept as text nodes, CDATA as CDATA sections. Hostile input is
+    // refused on the stack (xml_result_category): no DTD is accepted, so no
+    // entity is declared, expanded or fetched, and nothing touches the network.
+    bool load(core::byte_array const& bytes, core::result::stack& stack);
+
+    // The serialised document: the declaration <?xml version="1.0"
+    // encoding="UTF-8"?>, a line feed, then the root element with no further
+    // formatting. Fails on a document without root or a tree with an element
+    // of empty name.
+    static core::byte_array save(document const& value, core::result::stack& stack);
+
+    // Makes the element the root. Fails when the document has one already.
+    bool append_node(element const& root, core::result::stack& stack);
+    bool append_node(element&& root, core::result::stack& stack);
+
+    // Null when there is no root.
+    element* get_root_element();
+    element const* get_root_element() const;
+
+private:
+    struct impl;
+    std::unique_ptr<impl> impl_;
+};
+
+}  // namespace v3
+}  // namespace velk::xml

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <string>
+
+namespace velk::xml {
+inline namespace v3 {
+
+// A namespace declaration on an element. An empty prefix declares the
+// default namespace (xmlns="uri").
+class namespace_id {
+public:
+    namespace_id(std::string const& prefix, std::string const& uri) : prefix_(prefix), uri_(uri) {}
+
+    std::string const& get_prefix() const { return prefix_; }
+    std::string const& get_uri() const { return uri_; }
+
+private:
+    std::string prefix_;
+    std::string uri_;
+};
+
+}  // namespace v3
+}  // namespace velk::xml

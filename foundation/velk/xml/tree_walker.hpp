@@ -1,0 +1,43 @@
+#pragma once
+
+#include <velk/core/result/stack.hpp>
+#include <velk/xml/cdata_section.hpp>
+#include <velk/xml/element.hpp>
+#include <velk/xml/text.hpp>
+
+#include <string>
+#include <vector>
+
+namespace velk::xml {
+inline namespace v3 {
+
+// A depth-first visit of an element and its descendants, in document order.
+// Derive and override what matters; the defaults visit everything and do
+// nothing.
+class tree_walker {
+public:
+    tree_walker();
+    virtual ~tree_walker();
+
+    // Visits the element itself first. Returns false when the stack failed
+    // during the visit (the visit stops there).
+    bool traverse_element(element const& root, core::result::stack& stack);
+
+    // While a visit runs: the local names from the element where it began to
+    // the current element, joined by "/", without a leading "/". Inside a text
+    // node, the path of the element that holds it.
+    std::string get_current_path() const;
+
+protected:
+    // Returns true to visit the element's children, false to skip them.
+    virtual bool on_enter_element(element const& value, core::result::stack& stack);
+    virtual void on_leave_element(element const& value);
+    virtual void on_text(text const& value);
+    virtual void on_cdata_section(cdata_section const& value);
+
+private:
+    std::vector<std::string const*> path_;
+};
+
+}  // namespace v3
+}  // namespace velk::xml
