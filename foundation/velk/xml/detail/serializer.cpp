@@ -7,6 +7,7 @@
 
 #include <array>
 #include <initializer_list>
+#include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
@@ -45,13 +46,14 @@ constexpr std::string_view cdata_end = "]]>";
 
 class writer {
 public:
-    writer(core::byte_array& out, core::result::stack& stack) : out_(out), stack_(stack) {}
+    explicit writer(core::result::stack& stack) : stack_(stack) {}
 
     bool write_element(element const& value);
+    std::string const& get_text() const { return out_; }
 
 private:
     void append(std::string_view text) { out_.append(text); }
-    void append(char character) { out_.push_back(static_cast<unsigned char>(character)); }
+    void append(char character) { out_.push_back(character); }
     void append_escaped(std::string_view text, escape_table const& table);
     void write_node(node const& child);
     void write_cdata(std::string_view contents);
@@ -60,7 +62,8 @@ private:
     // start at `mark` in the scope) unless it is in scope already.
     void declare_if_needed(std::size_t mark, std::string_view prefix, std::string const& uri);
 
-    core::byte_array& out_;
+    // Gathered in a string, whose appends are inline, and handed over once.
+    std::string out_;
     core::result::stack& stack_;
     // Prefix and URI of each declaration in scope, innermost last.
     std::vector<std::pair<std::string_view, std::string_view>> scope_;
@@ -149,7 +152,8 @@ void writer::write_node(node const& child)
 bool writer::write_element(element const& value)
 {
     std::string const& name = value.get_qualified_name();
-    if (!is_valid_qualified_name(name)) {
+    std::string_view prefix;
+    if (!is_valid_qualified_name(name, prefix)) {
         core::result::fresh<xml_result_category, 3>(stack_, name);
         return false;
     }
@@ -160,12 +164,14 @@ bool writer::write_element(element const& value)
     for (namespace_id const& declaration : value.get_namespaces()) {
         write_declaration(declaration.get_prefix(), declaration.get_uri());
     }
-    declare_if_needed(mark, prefix_of(name), value.get_namespace_uri());
+    declare_if_needed(mark, prefix, value.get_namespace_uri());
     auto const& attributes = value.get_attributes();
     for (attribute const& property : attributes) {
-        std::string_view const prefix = prefix_of(property.get_name());
-        if (!prefix.empty()) {
-            declare_if_needed(mark, prefix, property.get_namespace_uri());
+        // An unprefixed attribute is in no namespace, whatever the default one.
+        if (!property.get_namespace_uri().empty()) {
+            if (std::string_view const attribute_prefix = prefix_of(property.get_name()); !attribute_prefix.empty()) {
+                declare_if_needed(mark, attribute_prefix, property.get_namespace_uri());
+            }
         }
     }
     for (attribute const& property : attributes) {
@@ -202,7 +208,12 @@ bool writer::write_element(element const& value)
 
 bool serializer::write(element const& root, core::byte_array& out, core::result::stack& stack)
 {
-    return writer(out, stack).write_element(root);
+    writer text(stack);
+    if (!text.write_element(root)) {
+        return false;
+    }
+    out.append(text.get_text());
+    return true;
 }
 
 }  // namespace detail

@@ -48,11 +48,28 @@ bool is_valid_local_name(std::string_view name)
 
 bool is_valid_qualified_name(std::string_view name)
 {
-    auto const colon = name.find(':');
-    if (colon == std::string_view::npos) {
-        return is_valid_local_name(name);
+    std::string_view prefix;
+    return is_valid_qualified_name(name, prefix);
+}
+
+bool is_valid_qualified_name(std::string_view name, std::string_view& prefix)
+{
+    prefix = {};
+    bool at_start = true;
+    for (std::size_t index = 0; index < name.size(); ++index) {
+        auto const c = static_cast<unsigned char>(name[index]);
+        if (c == ':' && !at_start && prefix.empty()) {
+            prefix = name.substr(0, index);
+            at_start = true;
+            continue;
+        }
+        unsigned char const kind = name_classes[c];
+        if (kind == not_in_name || (at_start && kind != anywhere)) {
+            return false;
+        }
+        at_start = false;
     }
-    return is_valid_local_name(name.substr(0, colon)) && is_valid_local_name(name.substr(colon + 1));
+    return !at_start;
 }
 
 std::string_view prefix_of(std::string_view qualified_name)

@@ -13,6 +13,8 @@ namespace detail {
 bool is_valid_local_name(std::string_view name);
 // A local name, or prefix ":" local name.
 bool is_valid_qualified_name(std::string_view name);
+// The same check, giving the prefix (empty when none) in the same pass.
+bool is_valid_qualified_name(std::string_view name, std::string_view& prefix);
 
 // The part before ":" (empty when none) and the part after it.
 std::string_view prefix_of(std::string_view qualified_name);
