@@ -74,21 +74,11 @@ TEST(canonicalize, signed_events_reproduce_their_digest)
         ASSERT_NE(digest, nullptr);
 
         // What a signature reference sees: the element with every namespace in
-        // scope where it stands.
+        // scope where it stands (a prefix it declares itself is refused here).
         element with_scope = *signed_part;
         for (auto const& [prefix, uri] : in_scope) {
-            stack report;
-            bool const declared_here = [&] {
-                for (auto const& own : with_scope.get_namespaces()) {
-                    if (own.get_prefix() == prefix) {
-                        return true;
-                    }
-                }
-                return false;
-            }();
-            if (!declared_here) {
-                ASSERT_TRUE(with_scope.append_namespace(namespace_id(prefix, uri), report));
-            }
+            stack ignored;
+            with_scope.append_namespace(namespace_id(prefix, uri), ignored);
         }
         EXPECT_EQ(canonical_digest(with_scope), digest->get_contents());
         // A plain copy declares the one namespace it uses, which here is all

@@ -44,14 +44,29 @@ constexpr char const* fault = R"(<env:Envelope xmlns:env="http://www.w3.org/2003
                               R"(<env:Reason><env:Text xml:lang="pt">Falha<![CDATA[!]]></env:Text></env:Reason>)"
                               R"(<env:Detail><x>1</x></env:Detail></env:Fault></env:Body></env:Envelope>)";
 
+struct walk_result {
+    bool completed;
+    bool failed;
+    std::vector<std::string> events;
+    std::string path_after;
+};
+
+walk_result walk(element const& start, std::string const& skip, std::string const& fail_at)
+{
+    recording_walker walker;
+    walker.skip = skip;
+    walker.fail_at = fail_at;
+    stack report;
+    bool const completed = walker.traverse_element(start, report);
+    return {completed, report.has_failed(), walker.events, walker.get_current_path()};
+}
+
 TEST(tree_walker, visits_in_document_order_with_local_name_paths_and_skips_children)
 {
     document parsed = parse_or_fail(fault);
-    recording_walker walker;
-    walker.skip = "Detail";
-    stack report;
-    EXPECT_TRUE(walker.traverse_element(*parsed.get_root_element(), report));
-    EXPECT_FALSE(report.has_failed());
+    walk_result const result = walk(*parsed.get_root_element(), "Detail", "");
+    EXPECT_TRUE(result.completed);
+    EXPECT_FALSE(result.failed);
     std::vector<std::string> const expected = {
         "enter Envelope",
         "enter Envelope/Body",
@@ -73,13 +88,11 @@ TEST(tree_walker, visits_in_document_order_with_local_name_paths_and_skips_child
         "leave Envelope/Body",
         "leave Envelope",
     };
-    EXPECT_EQ(walker.events, expected);
-    EXPECT_EQ(walker.get_current_path(), "");
+    EXPECT_EQ(result.events, expected);
+    EXPECT_EQ(result.path_after, "");
 
     // Paths start at the element where the visit begins.
-    recording_walker inner;
-    element const& fault_element = *parsed.get_root_element()->find_child("Body")->find_child("Fault");
-    EXPECT_TRUE(inner.traverse_element(fault_element, report));
+    walk_result const inner = walk(*parsed.get_root_element()->find_child("Body")->find_child("Fault"), "", "");
     EXPECT_EQ(inner.events.front(), "enter Fault");
     EXPECT_EQ(inner.events[13], "enter Fault/Detail/x");
     EXPECT_EQ(inner.events[14], "text Fault/Detail/x 1");
@@ -88,13 +101,11 @@ TEST(tree_walker, visits_in_document_order_with_local_name_paths_and_skips_child
 TEST(tree_walker, a_failure_ends_the_visit_at_once)
 {
     document parsed = parse_or_fail(fault);
-    recording_walker walker;
-    walker.fail_at = "Reason";
-    stack report;
-    EXPECT_FALSE(walker.traverse_element(*parsed.get_root_element(), report));
-    EXPECT_TRUE(report.has_failed());
-    EXPECT_EQ(walker.events.back(), "enter Envelope/Body/Fault/Reason");
-    EXPECT_EQ(walker.get_current_path(), "");
+    walk_result const result = walk(*parsed.get_root_element(), "", "Reason");
+    EXPECT_FALSE(result.completed);
+    EXPECT_TRUE(result.failed);
+    EXPECT_EQ(result.events.back(), "enter Envelope/Body/Fault/Reason");
+    EXPECT_EQ(result.path_after, "");
 }
 
 }  // namespace
