@@ -49,10 +49,13 @@ public:
     element& operator=(element&& other) noexcept;
     ~element();
 
-    // Fails (xml_result_category) on an invalid name or an attribute of the
-    // same name already present; the element is then unchanged.
+    // Fails (xml_result_category, fresh report) on an invalid name or one of a
+    // namespace declaration, "xmlns" or "xmlns:p" (code 3), or an attribute of
+    // the same name already present (code 4); the element is then unchanged.
     bool append_attribute(attribute const& value, core::result::stack& stack);
-    // Fails on a prefix already declared on this element, or an invalid prefix.
+    // Fails on a prefix already declared on this element (code 5), or an
+    // invalid prefix: not a name, "xml", "xmlns", or a prefix with an empty URI
+    // (code 3). Declaring the element's own prefix sets its namespace.
     bool append_namespace(namespace_id const& value, core::result::stack& stack);
 
     // Appends a child as the last one. An element child without a namespace
