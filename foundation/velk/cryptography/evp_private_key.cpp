@@ -62,8 +62,7 @@ evp_private_key::evp_private_key() = default;
 evp_private_key evp_private_key::from_byte_array(core::byte_array const& bytes, encoding format,
                                                  core::result::stack& stack)
 {
-    if (format != encoding::der && format != encoding::pem) {
-        core::result::fresh<cryptography_result_category, 8>(stack, std::to_string(static_cast<int>(format)));
+    if (!detail::is_known_encoding(format, stack)) {
         return {};
     }
     if (bytes.empty()) {
@@ -104,8 +103,7 @@ evp_private_key::type evp_private_key::get_type() const
 
 core::byte_array evp_private_key::to_byte_array(encoding format, core::result::stack& stack) const
 {
-    if (format != encoding::der && format != encoding::pem) {
-        core::result::fresh<cryptography_result_category, 8>(stack, std::to_string(static_cast<int>(format)));
+    if (!detail::is_known_encoding(format, stack)) {
         return {};
     }
     if (impl_ == nullptr) {

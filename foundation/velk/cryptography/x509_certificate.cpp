@@ -53,8 +53,7 @@ x509_certificate::x509_certificate() = default;
 x509_certificate x509_certificate::from_byte_array(core::byte_array const& bytes, encoding format,
                                                    core::result::stack& stack)
 {
-    if (format != encoding::der && format != encoding::pem) {
-        core::result::fresh<cryptography_result_category, 8>(stack, std::to_string(static_cast<int>(format)));
+    if (!detail::is_known_encoding(format, stack)) {
         return {};
     }
     if (bytes.empty()) {
@@ -91,8 +90,7 @@ bool x509_certificate::empty() const
 
 core::byte_array x509_certificate::to_byte_array(encoding format, core::result::stack& stack) const
 {
-    if (format != encoding::der && format != encoding::pem) {
-        core::result::fresh<cryptography_result_category, 8>(stack, std::to_string(static_cast<int>(format)));
+    if (!detail::is_known_encoding(format, stack)) {
         return {};
     }
     if (impl_ == nullptr) {

@@ -1,5 +1,8 @@
 #include <velk/cryptography/detail/openssl.hpp>
 
+#include <velk/core/result/report.hpp>
+#include <velk/cryptography/cryptography_result_category.hpp>
+
 #include <openssl/err.h>
 
 #include <climits>
@@ -23,6 +26,15 @@ std::string take_openssl_errors(char const* fallback)
         text += reason != nullptr ? reason : buffer;
     }
     return text.empty() ? std::string(fallback) : text;
+}
+
+bool is_known_encoding(encoding format, core::result::stack& stack)
+{
+    if (format == encoding::der || format == encoding::pem) {
+        return true;
+    }
+    core::result::fresh<cryptography_result_category, 8>(stack, std::to_string(static_cast<int>(format)));
+    return false;
 }
 
 openssl_ptr<BIO> memory_source(unsigned char const* data, std::size_t size)

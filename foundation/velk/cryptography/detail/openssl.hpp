@@ -37,6 +37,9 @@ using openssl_ptr = std::unique_ptr<T, openssl_deleter>;
 // from being blamed on a later, unrelated call (libcurl reads the same queue).
 std::string take_openssl_errors(char const* fallback);
 
+// False, with code 8 on the stack, for a value outside the enumeration.
+bool is_known_encoding(encoding format, core::result::stack& stack);
+
 // A read-only memory BIO over the bytes; they must outlive it.
 openssl_ptr<BIO> memory_source(unsigned char const* data, std::size_t size);
 // The bytes written so far into a memory BIO.

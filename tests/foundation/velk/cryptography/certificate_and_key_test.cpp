@@ -33,6 +33,14 @@ evp_private_key taxpayer_key()
     return key;
 }
 
+// Bytes that must not read, with the code of the failure.
+struct bad_case {
+    char const* name;
+    core::byte_array bytes;
+    encoding format;
+    int code;
+};
+
 std::time_t to_time(core::datetime const& value)
 {
     std::tm parts{};
@@ -77,12 +85,6 @@ TEST(x509_certificate, refuses_what_is_not_one_certificate)
 {
     core::byte_array with_trailer = test_certificates::instance().taxpayer().certificate_der();
     with_trailer.push_back(0);
-    struct bad_case {
-        char const* name;
-        core::byte_array bytes;
-        encoding format;
-        int code;
-    };
     bad_case const cases[] = {
         {"empty", core::byte_array(), encoding::der, 4},
         {"trailing byte", with_trailer, encoding::der, 4},
@@ -154,12 +156,6 @@ TEST(evp_private_key, signs_so_that_the_certificate_verifies)
 TEST(evp_private_key, refuses_unusable_keys_without_asking_for_a_passphrase)
 {
     std::string const pem = test_certificates::instance().taxpayer().private_key_pem();
-    struct bad_case {
-        char const* name;
-        core::byte_array bytes;
-        encoding format;
-        int code;
-    };
     bad_case const cases[] = {
         {"empty", core::byte_array(), encoding::pem, 5},
         {"encrypted PEM", bytes_of(velk::test::encrypt_pem_key(pem, "segredo")), encoding::pem, 5},
