@@ -149,6 +149,19 @@ TEST(signer, reproduces_the_digest_values_of_signed_event_samples)
     }
 }
 
+TEST(signer, leaves_itself_out_when_it_lies_inside_the_signed_element)
+{
+    // The reference names elemento_pai itself: only the enveloped-signature
+    // transform keeps the Signature being computed out of its own digest.
+    velk::xml::element document = parse_element(
+        "<lote xmlns=\"urn:velk:teste\" Id=\"L1\"><item n=\"1\">um</item><item n=\"2\">dois</item></lote>");
+    core::result::stack stack;
+    ASSERT_TRUE(append_and_sign(document, "#L1", test_pkcs12(), stack)) << stack.to_string();
+    xmlsec_result const verified =
+        xmlsec_verify(to_text(document), "urn:velk:teste:lote", test_certificates::instance().ca_pem());
+    EXPECT_TRUE(verified.success) << verified.output;
+}
+
 TEST(signer, signs_again_after_the_old_signature_is_removed)
 {
     velk::xml::element nfe = parse_element(nfe_text);
