@@ -53,6 +53,9 @@ int sefaz_server::run()
         std::fprintf(stderr, "velk-sefaz-sim: cannot use the certificate, key or client CA given\n");
         return 1;
     }
+    if (options_.tls_max == "1.2") {
+        SSL_CTX_set_max_proto_version(server.ssl_context(), TLS1_2_VERSION);
+    }
     server.Post(".*", [this](httplib::Request const& request, httplib::Response& response) {
         handle(request, response);
     });

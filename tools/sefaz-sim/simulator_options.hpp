@@ -18,6 +18,7 @@ struct simulator_options {
     std::filesystem::path record;          // folder for each request received; empty: none
     fault injected = fault::none;
     int delay_ms = 3000;
+    std::string tls_max = "1.3";  // highest TLS version offered: "1.2" or "1.3"
     bool verbose = false;
     bool help = false;
 
