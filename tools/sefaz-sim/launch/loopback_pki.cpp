@@ -20,14 +20,15 @@ void write_file(std::filesystem::path const& path, std::string const& contents)
 
 loopback_pki::loopback_pki(std::filesystem::path folder, std::string password)
     : authority_("Velk Simulador CA"), password_(std::move(password)), ca_file_(folder / "ca.pem"),
-      server_certificate_file_(folder / "server.pem"), server_key_file_(folder / "server-key.pem")
+      server_certificate_file_(folder / "server.pem"), server_key_file_(folder / "server-key.pem"),
+      client_(authority_.issue_client("EMPRESA DEMONSTRACAO LTDA:12345678000195"))
 {
     std::filesystem::create_directories(folder);
     pki::issued_certificate const server = authority_.issue_server({"localhost"}, {"127.0.0.1"});
     write_file(ca_file_, authority_.certificate_pem());
     write_file(server_certificate_file_, server.certificate_pem());
     write_file(server_key_file_, server.private_key_pem());
-    client_pkcs12_ = authority_.issue_client("EMPRESA DEMONSTRACAO LTDA:12345678000195").to_pkcs12(password_);
+    client_pkcs12_ = client_.to_pkcs12(password_);
 }
 
 std::vector<std::string> loopback_pki::server_arguments() const

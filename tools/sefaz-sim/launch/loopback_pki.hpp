@@ -21,6 +21,8 @@ public:
     std::filesystem::path const& server_certificate_file() const { return server_certificate_file_; }
     std::filesystem::path const& server_key_file() const { return server_key_file_; }
     core::byte_array const& client_pkcs12() const { return client_pkcs12_; }
+    // The same client certificate and key as PEM, for tools that want files.
+    pki::issued_certificate const& client() const { return client_; }
     std::string const& password() const { return password_; }
     pki::certificate_authority const& authority() const { return authority_; }
 
@@ -33,6 +35,7 @@ private:
     std::filesystem::path ca_file_;
     std::filesystem::path server_certificate_file_;
     std::filesystem::path server_key_file_;
+    pki::issued_certificate client_;
     core::byte_array client_pkcs12_;
 };
 
