@@ -1,0 +1,36 @@
+#include <velk/erp/tarn/nfe/layout_4_00/montagem.hpp>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
+
+bool montar_entrega(fiscal::local_entrega const& local, grupo::entrega& entrega, core::result::stack& stack)
+{
+    if (auto const cpf = local.get_cpf()) {
+        if (!ler_documento_cpf(*cpf, entrega.documento, stack)) {
+            return recusar<10>(stack, *cpf);
+        }
+    } else if (auto const cnpj = local.get_cnpj()) {
+        if (!ler_documento_cnpj(*cnpj, entrega.documento, stack)) {
+            return recusar<11>(stack, *cnpj);
+        }
+    } else {
+        return recusar<12>(stack);
+    }
+    montar_logradouro(local.get_endereco(), entrega);
+    return true;
+}
+
+// A document that can't be read stops the note with the reader's items alone:
+// no refusal of its own exists for it.
+bool montar_autXML(fiscal::autorizacao_acesso_xml const& autorizacao, grupo::cpf_cnpj_ou_estrangeiro& autXML,
+                   core::result::stack& stack)
+{
+    if (auto const cnpj = autorizacao.get_cnpj()) {
+        return ler_documento_cnpj(*cnpj, autXML, stack);
+    }
+    if (auto const cpf = autorizacao.get_cpf()) {
+        return ler_documento_cpf(*cpf, autXML, stack);
+    }
+    return recusar<66>(stack);
+}
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00
