@@ -1,36 +1,27 @@
 #include <velk/erp/tarn/nfe/detail/ler_documento.hpp>
 
 #include <velk/core/converter.hpp>
-#include <velk/core/result/category.hpp>
 #include <velk/core/result/code.hpp>
 #include <velk/core/result/report.hpp>
+#include <velk/core/result/table_category.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::detail {
 
 namespace {
 
+char const* const mensagens[] = {
+    "O CPF informado é inválido",
+    "O CNPJ informado é inválido",
+    "O indicador estrangeiro informado é inválido",
+};
+
 // Failures of the document readers of this file; no one else raises them.
-class internal_result_category final : public core::result::category {
+class internal_result_category final : public core::result::table_category {
 public:
     static internal_result_category const& instance()
     {
         static internal_result_category const category;
         return category;
-    }
-
-    char const* get_name() const override { return "internal-errors"; }
-
-    char const* get_message(int code) const override
-    {
-        static char const* const mensagens[] = {
-            "O CPF informado é inválido",
-            "O CNPJ informado é inválido",
-            "O indicador estrangeiro informado é inválido",
-        };
-        if (code < 1 || code > 3) {
-            show_invalid_value_message_and_exit(code);
-        }
-        return mensagens[code - 1];
     }
 
     template <int N>
@@ -39,7 +30,7 @@ public:
     }
 
 private:
-    internal_result_category() = default;
+    internal_result_category() : table_category("internal-errors", mensagens) {}
 };
 
 template <int Codigo>
