@@ -50,7 +50,10 @@ public:
     }
 
     // qTemp
-    core::optional<core::decimal> get_quantidade_faturada_temperatura_ambiente() const { return quantidade_faturada_temperatura_ambiente_; }
+    core::optional<core::decimal> get_quantidade_faturada_temperatura_ambiente() const
+    {
+        return quantidade_faturada_temperatura_ambiente_;
+    }
     combustiveis& set_quantidade_faturada_temperatura_ambiente(core::optional<core::decimal> value)
     {
         quantidade_faturada_temperatura_ambiente_ = std::move(value);
@@ -66,7 +69,10 @@ public:
     }
 
     // CIDE
-    core::optional<informacoes_cide_combustiveis> get_informacoes_cide_combustiveis() const { return informacoes_cide_combustiveis_; }
+    core::optional<informacoes_cide_combustiveis> get_informacoes_cide_combustiveis() const
+    {
+        return informacoes_cide_combustiveis_;
+    }
     combustiveis& set_informacoes_cide_combustiveis(core::optional<informacoes_cide_combustiveis> value)
     {
         informacoes_cide_combustiveis_ = std::move(value);
@@ -74,7 +80,10 @@ public:
     }
 
     // encerrante
-    core::optional<encerrante_bomba_combustiveis> get_encerrante_bomba_combustiveis() const { return encerrante_bomba_combustiveis_; }
+    core::optional<encerrante_bomba_combustiveis> get_encerrante_bomba_combustiveis() const
+    {
+        return encerrante_bomba_combustiveis_;
+    }
     combustiveis& set_encerrante_bomba_combustiveis(core::optional<encerrante_bomba_combustiveis> value)
     {
         encerrante_bomba_combustiveis_ = std::move(value);

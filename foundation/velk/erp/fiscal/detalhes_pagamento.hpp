@@ -17,7 +17,10 @@ namespace fiscal {
 class detalhes_pagamento {
 public:
     // indPag
-    core::optional<indicador_forma_pagamento> get_indicador_forma_pagamento() const { return indicador_forma_pagamento_; }
+    core::optional<indicador_forma_pagamento> get_indicador_forma_pagamento() const
+    {
+        return indicador_forma_pagamento_;
+    }
     detalhes_pagamento& set_indicador_forma_pagamento(core::optional<indicador_forma_pagamento> value)
     {
         indicador_forma_pagamento_ = std::move(value);

@@ -15,7 +15,10 @@ namespace fiscal {
 class grupo_exportacao {
 public:
     // nDraw
-    core::optional<std::uint64_t> get_numero_ato_concessorio_drawback() const { return numero_ato_concessorio_drawback_; }
+    core::optional<std::uint64_t> get_numero_ato_concessorio_drawback() const
+    {
+        return numero_ato_concessorio_drawback_;
+    }
     grupo_exportacao& set_numero_ato_concessorio_drawback(core::optional<std::uint64_t> value)
     {
         numero_ato_concessorio_drawback_ = value;

@@ -41,7 +41,10 @@ public:
     }
 
     // pST
-    core::optional<core::decimal> get_aliquota_suportada_consumidor_final() const { return aliquota_suportada_consumidor_final_; }
+    core::optional<core::decimal> get_aliquota_suportada_consumidor_final() const
+    {
+        return aliquota_suportada_consumidor_final_;
+    }
     grupo_repasse_icms_st& set_aliquota_suportada_consumidor_final(core::optional<core::decimal> value)
     {
         aliquota_suportada_consumidor_final_ = std::move(value);
@@ -65,7 +68,10 @@ public:
     }
 
     // vBCFCPSTRet, pFCPSTRet, vFCPSTRet
-    core::optional<grupo_fcp_st_retido_anteriormente> get_fcp_st_retido_anteriormente() const { return fcp_st_retido_anteriormente_; }
+    core::optional<grupo_fcp_st_retido_anteriormente> get_fcp_st_retido_anteriormente() const
+    {
+        return fcp_st_retido_anteriormente_;
+    }
     grupo_repasse_icms_st& set_fcp_st_retido_anteriormente(core::optional<grupo_fcp_st_retido_anteriormente> value)
     {
         fcp_st_retido_anteriormente_ = std::move(value);

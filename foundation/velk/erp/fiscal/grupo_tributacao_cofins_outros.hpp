@@ -1,56 +1,15 @@
 #pragma once
 
-#include <velk/core/decimal.hpp>
-#include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/cst_pis_cofins_outras_operacoes.hpp>
-
-#include <utility>
+#include <velk/erp/fiscal/detail/cofins_sobre_base.hpp>
 
 namespace velk::erp {
 inline namespace v4 {
 namespace fiscal {
 
 // COFINS in other operations (group COFINSOutr), on a base and a rate.
-class grupo_tributacao_cofins_outros {
-public:
-    // CST
-    cst_pis_cofins_outras_operacoes get_cst_cofins() const { return cst_cofins_; }
-    grupo_tributacao_cofins_outros& set_cst_cofins(cst_pis_cofins_outras_operacoes value)
-    {
-        cst_cofins_ = value;
-        return *this;
-    }
-
-    // vBC
-    core::optional<core::decimal> get_valor_bc_cofins() const { return valor_bc_cofins_; }
-    grupo_tributacao_cofins_outros& set_valor_bc_cofins(core::optional<core::decimal> value)
-    {
-        valor_bc_cofins_ = std::move(value);
-        return *this;
-    }
-
-    // pCOFINS
-    core::optional<core::decimal> get_percentual_aliquota_cofins() const { return percentual_aliquota_cofins_; }
-    grupo_tributacao_cofins_outros& set_percentual_aliquota_cofins(core::optional<core::decimal> value)
-    {
-        percentual_aliquota_cofins_ = std::move(value);
-        return *this;
-    }
-
-    // vCOFINS
-    core::decimal get_valor_cofins() const { return valor_cofins_; }
-    grupo_tributacao_cofins_outros& set_valor_cofins(core::decimal value)
-    {
-        valor_cofins_ = std::move(value);
-        return *this;
-    }
-
-private:
-    cst_pis_cofins_outras_operacoes cst_cofins_{};
-    core::optional<core::decimal> valor_bc_cofins_;
-    core::optional<core::decimal> percentual_aliquota_cofins_;
-    core::decimal valor_cofins_;
-};
+class grupo_tributacao_cofins_outros
+    : public detail::cofins_sobre_base<grupo_tributacao_cofins_outros, cst_pis_cofins_outras_operacoes> {};
 
 }  // namespace fiscal
 }  // namespace v4

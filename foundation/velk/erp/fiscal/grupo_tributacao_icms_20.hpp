@@ -2,11 +2,10 @@
 
 #include <velk/core/decimal.hpp>
 #include <velk/core/optional.hpp>
-#include <velk/erp/fiscal/cst_icms.hpp>
+#include <velk/erp/fiscal/detail/icms_proprio.hpp>
+#include <velk/erp/fiscal/detail/origem_cst.hpp>
 #include <velk/erp/fiscal/grupo_fcp.hpp>
 #include <velk/erp/fiscal/grupo_icms_desonerado.hpp>
-#include <velk/erp/fiscal/modalidade_bc_icms.hpp>
-#include <velk/erp/fiscal/origem_mercadoria.hpp>
 
 #include <utility>
 
@@ -15,61 +14,14 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS on a reduced base (group ICMS20).
-class grupo_tributacao_icms_20 {
+class grupo_tributacao_icms_20 : public detail::origem_cst<grupo_tributacao_icms_20>,
+                                 public detail::icms_proprio<grupo_tributacao_icms_20> {
 public:
-    // orig
-    origem_mercadoria get_origem_mercadoria() const { return origem_mercadoria_; }
-    grupo_tributacao_icms_20& set_origem_mercadoria(origem_mercadoria value)
-    {
-        origem_mercadoria_ = value;
-        return *this;
-    }
-
-    // CST
-    cst_icms get_cst() const { return cst_; }
-    grupo_tributacao_icms_20& set_cst(cst_icms value)
-    {
-        cst_ = value;
-        return *this;
-    }
-
-    // modBC
-    modalidade_bc_icms get_modalidade_bc_icms() const { return modalidade_bc_icms_; }
-    grupo_tributacao_icms_20& set_modalidade_bc_icms(modalidade_bc_icms value)
-    {
-        modalidade_bc_icms_ = value;
-        return *this;
-    }
-
     // pRedBC
     core::optional<core::decimal> get_percentual_reducao_bc_icms() const { return percentual_reducao_bc_icms_; }
     grupo_tributacao_icms_20& set_percentual_reducao_bc_icms(core::optional<core::decimal> value)
     {
         percentual_reducao_bc_icms_ = std::move(value);
-        return *this;
-    }
-
-    // vBC
-    core::optional<core::decimal> get_valor_bc_icms() const { return valor_bc_icms_; }
-    grupo_tributacao_icms_20& set_valor_bc_icms(core::optional<core::decimal> value)
-    {
-        valor_bc_icms_ = std::move(value);
-        return *this;
-    }
-
-    // pICMS
-    core::optional<core::decimal> get_aliquota_icms() const { return aliquota_icms_; }
-    grupo_tributacao_icms_20& set_aliquota_icms(core::optional<core::decimal> value)
-    {
-        aliquota_icms_ = std::move(value);
-        return *this;
-    }
-
-    // vICMS
-    core::optional<core::decimal> get_valor_icms() const { return valor_icms_; }
-    grupo_tributacao_icms_20& set_valor_icms(core::optional<core::decimal> value)
-    {
-        valor_icms_ = std::move(value);
         return *this;
     }
 
@@ -90,13 +42,7 @@ public:
     }
 
 private:
-    origem_mercadoria origem_mercadoria_{};
-    cst_icms cst_{};
-    modalidade_bc_icms modalidade_bc_icms_{};
     core::optional<core::decimal> percentual_reducao_bc_icms_;
-    core::optional<core::decimal> valor_bc_icms_;
-    core::optional<core::decimal> aliquota_icms_;
-    core::optional<core::decimal> valor_icms_;
     core::optional<grupo_fcp> fcp_;
     core::optional<grupo_icms_desonerado> grupo_icms_desonerado_;
 };

@@ -1,122 +1,17 @@
 #pragma once
 
-#include <velk/core/decimal.hpp>
-#include <velk/core/optional.hpp>
-#include <velk/erp/fiscal/csosn.hpp>
-#include <velk/erp/fiscal/grupo_fcp_st_retido.hpp>
-#include <velk/erp/fiscal/modalidade_bc_icms_st.hpp>
-#include <velk/erp/fiscal/origem_mercadoria.hpp>
-
-#include <utility>
+#include <velk/erp/fiscal/detail/credito_simples_nacional.hpp>
+#include <velk/erp/fiscal/detail/icms_st.hpp>
+#include <velk/erp/fiscal/detail/origem_csosn.hpp>
 
 namespace velk::erp {
 inline namespace v4 {
 namespace fiscal {
 
 // Simples Nacional with credit and substitution (group ICMSSN201).
-class grupo_tributacao_icms_201 {
-public:
-    // orig
-    origem_mercadoria get_origem_mercadoria() const { return origem_mercadoria_; }
-    grupo_tributacao_icms_201& set_origem_mercadoria(origem_mercadoria value)
-    {
-        origem_mercadoria_ = value;
-        return *this;
-    }
-
-    // CSOSN
-    csosn get_csosn() const { return csosn_; }
-    grupo_tributacao_icms_201& set_csosn(csosn value)
-    {
-        csosn_ = value;
-        return *this;
-    }
-
-    // modBCST
-    modalidade_bc_icms_st get_modalidade_bc_icms_st() const { return modalidade_bc_icms_st_; }
-    grupo_tributacao_icms_201& set_modalidade_bc_icms_st(modalidade_bc_icms_st value)
-    {
-        modalidade_bc_icms_st_ = value;
-        return *this;
-    }
-
-    // pMVAST
-    core::optional<core::decimal> get_percentual_margem_valor_adicionado_icms_st() const { return percentual_margem_valor_adicionado_icms_st_; }
-    grupo_tributacao_icms_201& set_percentual_margem_valor_adicionado_icms_st(core::optional<core::decimal> value)
-    {
-        percentual_margem_valor_adicionado_icms_st_ = std::move(value);
-        return *this;
-    }
-
-    // pRedBCST
-    core::optional<core::decimal> get_percentual_reducao_bc_icms_st() const { return percentual_reducao_bc_icms_st_; }
-    grupo_tributacao_icms_201& set_percentual_reducao_bc_icms_st(core::optional<core::decimal> value)
-    {
-        percentual_reducao_bc_icms_st_ = std::move(value);
-        return *this;
-    }
-
-    // vBCST
-    core::optional<core::decimal> get_valor_bc_icms_st() const { return valor_bc_icms_st_; }
-    grupo_tributacao_icms_201& set_valor_bc_icms_st(core::optional<core::decimal> value)
-    {
-        valor_bc_icms_st_ = std::move(value);
-        return *this;
-    }
-
-    // pICMSST
-    core::optional<core::decimal> get_aliquota_icms_st() const { return aliquota_icms_st_; }
-    grupo_tributacao_icms_201& set_aliquota_icms_st(core::optional<core::decimal> value)
-    {
-        aliquota_icms_st_ = std::move(value);
-        return *this;
-    }
-
-    // vICMSST
-    core::optional<core::decimal> get_valor_icms_st() const { return valor_icms_st_; }
-    grupo_tributacao_icms_201& set_valor_icms_st(core::optional<core::decimal> value)
-    {
-        valor_icms_st_ = std::move(value);
-        return *this;
-    }
-
-    // vBCFCPST, pFCPST, vFCPST
-    core::optional<grupo_fcp_st_retido> get_fcp_st_retido() const { return fcp_st_retido_; }
-    grupo_tributacao_icms_201& set_fcp_st_retido(core::optional<grupo_fcp_st_retido> value)
-    {
-        fcp_st_retido_ = std::move(value);
-        return *this;
-    }
-
-    // pCredSN
-    core::optional<core::decimal> get_aliquota_de_credito_sn() const { return aliquota_de_credito_sn_; }
-    grupo_tributacao_icms_201& set_aliquota_de_credito_sn(core::optional<core::decimal> value)
-    {
-        aliquota_de_credito_sn_ = std::move(value);
-        return *this;
-    }
-
-    // vCredICMSSN
-    core::optional<core::decimal> get_valor_de_credito_sn() const { return valor_de_credito_sn_; }
-    grupo_tributacao_icms_201& set_valor_de_credito_sn(core::optional<core::decimal> value)
-    {
-        valor_de_credito_sn_ = std::move(value);
-        return *this;
-    }
-
-private:
-    origem_mercadoria origem_mercadoria_{};
-    csosn csosn_{};
-    modalidade_bc_icms_st modalidade_bc_icms_st_{};
-    core::optional<core::decimal> percentual_margem_valor_adicionado_icms_st_;
-    core::optional<core::decimal> percentual_reducao_bc_icms_st_;
-    core::optional<core::decimal> valor_bc_icms_st_;
-    core::optional<core::decimal> aliquota_icms_st_;
-    core::optional<core::decimal> valor_icms_st_;
-    core::optional<grupo_fcp_st_retido> fcp_st_retido_;
-    core::optional<core::decimal> aliquota_de_credito_sn_;
-    core::optional<core::decimal> valor_de_credito_sn_;
-};
+class grupo_tributacao_icms_201 : public detail::origem_csosn<grupo_tributacao_icms_201>,
+                                  public detail::icms_st<grupo_tributacao_icms_201>,
+                                  public detail::credito_simples_nacional<grupo_tributacao_icms_201> {};
 
 }  // namespace fiscal
 }  // namespace v4

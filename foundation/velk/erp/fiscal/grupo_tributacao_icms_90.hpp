@@ -1,9 +1,8 @@
 #pragma once
 
 #include <velk/core/optional.hpp>
-#include <velk/erp/fiscal/cst_icms.hpp>
+#include <velk/erp/fiscal/detail/origem_cst.hpp>
 #include <velk/erp/fiscal/grupo_icms_desonerado.hpp>
-#include <velk/erp/fiscal/origem_mercadoria.hpp>
 #include <velk/erp/fiscal/tributacao_normal_icms_90.hpp>
 #include <velk/erp/fiscal/tributacao_st_icms_90.hpp>
 
@@ -14,26 +13,13 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS, other situations (group ICMS90).
-class grupo_tributacao_icms_90 {
+class grupo_tributacao_icms_90 : public detail::origem_cst<grupo_tributacao_icms_90> {
 public:
-    // orig
-    origem_mercadoria get_origem_mercadoria() const { return origem_mercadoria_; }
-    grupo_tributacao_icms_90& set_origem_mercadoria(origem_mercadoria value)
-    {
-        origem_mercadoria_ = value;
-        return *this;
-    }
-
-    // CST
-    cst_icms get_cst() const { return cst_; }
-    grupo_tributacao_icms_90& set_cst(cst_icms value)
-    {
-        cst_ = value;
-        return *this;
-    }
-
     // modBC, vBC, pRedBC, pICMS, vICMS, FCP
-    core::optional<tributacao_normal_icms_90> get_tributacao_normal_icms_90() const { return tributacao_normal_icms_90_; }
+    core::optional<tributacao_normal_icms_90> get_tributacao_normal_icms_90() const
+    {
+        return tributacao_normal_icms_90_;
+    }
     grupo_tributacao_icms_90& set_tributacao_normal_icms_90(core::optional<tributacao_normal_icms_90> value)
     {
         tributacao_normal_icms_90_ = std::move(value);
@@ -57,8 +43,6 @@ public:
     }
 
 private:
-    origem_mercadoria origem_mercadoria_{};
-    cst_icms cst_{};
     core::optional<tributacao_normal_icms_90> tributacao_normal_icms_90_;
     core::optional<tributacao_st_icms_90> tributacao_st_icms_90_;
     core::optional<grupo_icms_desonerado> grupo_icms_desonerado_;

@@ -1,8 +1,7 @@
 #pragma once
 
 #include <velk/core/optional.hpp>
-#include <velk/erp/fiscal/csosn.hpp>
-#include <velk/erp/fiscal/origem_mercadoria.hpp>
+#include <velk/erp/fiscal/detail/origem_csosn.hpp>
 #include <velk/erp/fiscal/tributacao_credito_sn_icms_900.hpp>
 #include <velk/erp/fiscal/tributacao_normal_icms_900.hpp>
 #include <velk/erp/fiscal/tributacao_st_icms_900.hpp>
@@ -14,26 +13,13 @@ inline namespace v4 {
 namespace fiscal {
 
 // Simples Nacional, other situations (group ICMSSN900).
-class grupo_tributacao_icms_900 {
+class grupo_tributacao_icms_900 : public detail::origem_csosn<grupo_tributacao_icms_900> {
 public:
-    // orig
-    origem_mercadoria get_origem_mercadoria() const { return origem_mercadoria_; }
-    grupo_tributacao_icms_900& set_origem_mercadoria(origem_mercadoria value)
-    {
-        origem_mercadoria_ = value;
-        return *this;
-    }
-
-    // CSOSN
-    csosn get_csosn() const { return csosn_; }
-    grupo_tributacao_icms_900& set_csosn(csosn value)
-    {
-        csosn_ = value;
-        return *this;
-    }
-
     // modBC, vBC, pRedBC, pICMS, vICMS
-    core::optional<tributacao_normal_icms_900> get_tributacao_normal_icms_900() const { return tributacao_normal_icms_900_; }
+    core::optional<tributacao_normal_icms_900> get_tributacao_normal_icms_900() const
+    {
+        return tributacao_normal_icms_900_;
+    }
     grupo_tributacao_icms_900& set_tributacao_normal_icms_900(core::optional<tributacao_normal_icms_900> value)
     {
         tributacao_normal_icms_900_ = std::move(value);
@@ -49,7 +35,10 @@ public:
     }
 
     // pCredSN, vCredICMSSN
-    core::optional<tributacao_credito_sn_icms_900> get_tributacao_credito_sn_icms_900() const { return tributacao_credito_sn_icms_900_; }
+    core::optional<tributacao_credito_sn_icms_900> get_tributacao_credito_sn_icms_900() const
+    {
+        return tributacao_credito_sn_icms_900_;
+    }
     grupo_tributacao_icms_900& set_tributacao_credito_sn_icms_900(core::optional<tributacao_credito_sn_icms_900> value)
     {
         tributacao_credito_sn_icms_900_ = std::move(value);
@@ -57,8 +46,6 @@ public:
     }
 
 private:
-    origem_mercadoria origem_mercadoria_{};
-    csosn csosn_{};
     core::optional<tributacao_normal_icms_900> tributacao_normal_icms_900_;
     core::optional<tributacao_st_icms_900> tributacao_st_icms_900_;
     core::optional<tributacao_credito_sn_icms_900> tributacao_credito_sn_icms_900_;

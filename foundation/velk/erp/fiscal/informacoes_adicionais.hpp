@@ -31,7 +31,10 @@ public:
     }
 
     // procRef
-    std::vector<grupo_processo_referenciado> get_grupo_processo_referenciado() const { return grupo_processo_referenciado_; }
+    std::vector<grupo_processo_referenciado> get_grupo_processo_referenciado() const
+    {
+        return grupo_processo_referenciado_;
+    }
     informacoes_adicionais& set_grupo_processo_referenciado(std::vector<grupo_processo_referenciado> value)
     {
         grupo_processo_referenciado_ = std::move(value);

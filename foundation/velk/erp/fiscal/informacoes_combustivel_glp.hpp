@@ -13,7 +13,10 @@ namespace fiscal {
 class informacoes_combustivel_glp {
 public:
     // pGLP
-    core::optional<core::decimal> get_percentual_derivado_do_petroleo() const { return percentual_derivado_do_petroleo_; }
+    core::optional<core::decimal> get_percentual_derivado_do_petroleo() const
+    {
+        return percentual_derivado_do_petroleo_;
+    }
     informacoes_combustivel_glp& set_percentual_derivado_do_petroleo(core::optional<core::decimal> value)
     {
         percentual_derivado_do_petroleo_ = std::move(value);
@@ -21,7 +24,10 @@ public:
     }
 
     // pGNn
-    core::optional<core::decimal> get_percentual_gas_natural_nacional() const { return percentual_gas_natural_nacional_; }
+    core::optional<core::decimal> get_percentual_gas_natural_nacional() const
+    {
+        return percentual_gas_natural_nacional_;
+    }
     informacoes_combustivel_glp& set_percentual_gas_natural_nacional(core::optional<core::decimal> value)
     {
         percentual_gas_natural_nacional_ = std::move(value);
@@ -29,7 +35,10 @@ public:
     }
 
     // pGNi
-    core::optional<core::decimal> get_percentual_gas_natural_importado() const { return percentual_gas_natural_importado_; }
+    core::optional<core::decimal> get_percentual_gas_natural_importado() const
+    {
+        return percentual_gas_natural_importado_;
+    }
     informacoes_combustivel_glp& set_percentual_gas_natural_importado(core::optional<core::decimal> value)
     {
         percentual_gas_natural_importado_ = std::move(value);

@@ -46,8 +46,12 @@ public:
     }
 
     // idCSRT, hashCSRT
-    core::optional<informacoes_codigo_seguranca> get_informacoes_codigo_seguranca() const { return informacoes_codigo_seguranca_; }
-    informacoes_responsavel_tecnico& set_informacoes_codigo_seguranca(core::optional<informacoes_codigo_seguranca> value)
+    core::optional<informacoes_codigo_seguranca> get_informacoes_codigo_seguranca() const
+    {
+        return informacoes_codigo_seguranca_;
+    }
+    informacoes_responsavel_tecnico& set_informacoes_codigo_seguranca(
+        core::optional<informacoes_codigo_seguranca> value)
     {
         informacoes_codigo_seguranca_ = std::move(value);
         return *this;

@@ -203,7 +203,10 @@ public:
     }
 
     // xJust
-    core::optional<std::string> get_justificativa_entrada_contingencia() const { return justificativa_entrada_contingencia_; }
+    core::optional<std::string> get_justificativa_entrada_contingencia() const
+    {
+        return justificativa_entrada_contingencia_;
+    }
     nota_fiscal& set_justificativa_entrada_contingencia(core::optional<std::string> value)
     {
         justificativa_entrada_contingencia_ = std::move(value);
@@ -315,7 +318,10 @@ public:
     }
 
     // infIntermed
-    core::optional<informacoes_intermediador> get_informacoes_intermediador() const { return informacoes_intermediador_; }
+    core::optional<informacoes_intermediador> get_informacoes_intermediador() const
+    {
+        return informacoes_intermediador_;
+    }
     nota_fiscal& set_informacoes_intermediador(core::optional<informacoes_intermediador> value)
     {
         informacoes_intermediador_ = std::move(value);
@@ -339,7 +345,10 @@ public:
     }
 
     // infRespTec
-    core::optional<informacoes_responsavel_tecnico> get_informacoes_responsavel_tecnico() const { return informacoes_responsavel_tecnico_; }
+    core::optional<informacoes_responsavel_tecnico> get_informacoes_responsavel_tecnico() const
+    {
+        return informacoes_responsavel_tecnico_;
+    }
     nota_fiscal& set_informacoes_responsavel_tecnico(core::optional<informacoes_responsavel_tecnico> value)
     {
         informacoes_responsavel_tecnico_ = std::move(value);

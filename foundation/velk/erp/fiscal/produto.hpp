@@ -222,7 +222,10 @@ public:
     }
 
     // nItemPed
-    core::optional<std::uint32_t> get_codigo_do_produto_ordem_de_compra() const { return codigo_do_produto_ordem_de_compra_; }
+    core::optional<std::uint32_t> get_codigo_do_produto_ordem_de_compra() const
+    {
+        return codigo_do_produto_ordem_de_compra_;
+    }
     produto& set_codigo_do_produto_ordem_de_compra(core::optional<std::uint32_t> value)
     {
         codigo_do_produto_ordem_de_compra_ = value;
@@ -230,7 +233,10 @@ public:
     }
 
     // rastro
-    std::vector<informacoes_rastreabilidade> lista_informacoes_rastreabilidade() const { return lista_informacoes_rastreabilidade_; }
+    std::vector<informacoes_rastreabilidade> lista_informacoes_rastreabilidade() const
+    {
+        return lista_informacoes_rastreabilidade_;
+    }
     produto& set_lista_informacoes_rastreabilidade(std::vector<informacoes_rastreabilidade> value)
     {
         lista_informacoes_rastreabilidade_ = std::move(value);
@@ -302,7 +308,10 @@ public:
     }
 
     // ICMSUFDest
-    core::optional<tributacao_icms_uf_destino> get_tributacao_icms_uf_destino() const { return tributacao_icms_uf_destino_; }
+    core::optional<tributacao_icms_uf_destino> get_tributacao_icms_uf_destino() const
+    {
+        return tributacao_icms_uf_destino_;
+    }
     produto& set_tributacao_icms_uf_destino(core::optional<tributacao_icms_uf_destino> value)
     {
         tributacao_icms_uf_destino_ = std::move(value);

@@ -31,7 +31,10 @@ public:
     }
 
     // retTrib
-    core::optional<total_nfe_retencao_tributos> get_total_nfe_retencao_tributos() const { return total_nfe_retencao_tributos_; }
+    core::optional<total_nfe_retencao_tributos> get_total_nfe_retencao_tributos() const
+    {
+        return total_nfe_retencao_tributos_;
+    }
     total_nfe& set_total_nfe_retencao_tributos(core::optional<total_nfe_retencao_tributos> value)
     {
         total_nfe_retencao_tributos_ = std::move(value);

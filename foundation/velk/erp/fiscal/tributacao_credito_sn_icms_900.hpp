@@ -1,37 +1,13 @@
 #pragma once
 
-#include <velk/core/decimal.hpp>
-#include <velk/core/optional.hpp>
-
-#include <utility>
+#include <velk/erp/fiscal/detail/credito_simples_nacional.hpp>
 
 namespace velk::erp {
 inline namespace v4 {
 namespace fiscal {
 
 // Credit of the Simples Nacional in a group ICMSSN900.
-class tributacao_credito_sn_icms_900 {
-public:
-    // pCredSN
-    core::optional<core::decimal> get_aliquota_de_credito_sn() const { return aliquota_de_credito_sn_; }
-    tributacao_credito_sn_icms_900& set_aliquota_de_credito_sn(core::optional<core::decimal> value)
-    {
-        aliquota_de_credito_sn_ = std::move(value);
-        return *this;
-    }
-
-    // vCredICMSSN
-    core::optional<core::decimal> get_valor_de_credito_sn() const { return valor_de_credito_sn_; }
-    tributacao_credito_sn_icms_900& set_valor_de_credito_sn(core::optional<core::decimal> value)
-    {
-        valor_de_credito_sn_ = std::move(value);
-        return *this;
-    }
-
-private:
-    core::optional<core::decimal> aliquota_de_credito_sn_;
-    core::optional<core::decimal> valor_de_credito_sn_;
-};
+class tributacao_credito_sn_icms_900 : public detail::credito_simples_nacional<tributacao_credito_sn_icms_900> {};
 
 }  // namespace fiscal
 }  // namespace v4

@@ -29,7 +29,10 @@ public:
     }
 
     // pFCPUFDest
-    core::optional<core::decimal> get_percentual_fundo_combate_pobreza() const { return percentual_fundo_combate_pobreza_; }
+    core::optional<core::decimal> get_percentual_fundo_combate_pobreza() const
+    {
+        return percentual_fundo_combate_pobreza_;
+    }
     tributacao_icms_uf_destino& set_percentual_fundo_combate_pobreza(core::optional<core::decimal> value)
     {
         percentual_fundo_combate_pobreza_ = std::move(value);
@@ -61,7 +64,10 @@ public:
     }
 
     // vFCPUFDest
-    core::optional<core::decimal> get_valor_icms_fundo_combate_pobreza() const { return valor_icms_fundo_combate_pobreza_; }
+    core::optional<core::decimal> get_valor_icms_fundo_combate_pobreza() const
+    {
+        return valor_icms_fundo_combate_pobreza_;
+    }
     tributacao_icms_uf_destino& set_valor_icms_fundo_combate_pobreza(core::optional<core::decimal> value)
     {
         valor_icms_fundo_combate_pobreza_ = std::move(value);

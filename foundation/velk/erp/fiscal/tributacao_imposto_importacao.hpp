@@ -37,7 +37,10 @@ public:
     }
 
     // vIOF
-    core::optional<core::decimal> get_valor_imposto_operacoes_financeiras() const { return valor_imposto_operacoes_financeiras_; }
+    core::optional<core::decimal> get_valor_imposto_operacoes_financeiras() const
+    {
+        return valor_imposto_operacoes_financeiras_;
+    }
     tributacao_imposto_importacao& set_valor_imposto_operacoes_financeiras(core::optional<core::decimal> value)
     {
         valor_imposto_operacoes_financeiras_ = std::move(value);

@@ -50,7 +50,10 @@ public:
     }
 
     // clEnq, layout 3.10 only
-    core::optional<std::string> get_classe_enquadramento_ipi_cigarros_bebidas() const { return classe_enquadramento_ipi_cigarros_bebidas_; }
+    core::optional<std::string> get_classe_enquadramento_ipi_cigarros_bebidas() const
+    {
+        return classe_enquadramento_ipi_cigarros_bebidas_;
+    }
     tributacao_ipi& set_classe_enquadramento_ipi_cigarros_bebidas(core::optional<std::string> value)
     {
         classe_enquadramento_ipi_cigarros_bebidas_ = std::move(value);
@@ -66,7 +69,10 @@ public:
     }
 
     // vBC and pIPI; taken first
-    core::optional<tributacao_ipi_calculo_aliquota> get_tributacao_ipi_calculo_aliquota() const { return tributacao_ipi_calculo_aliquota_; }
+    core::optional<tributacao_ipi_calculo_aliquota> get_tributacao_ipi_calculo_aliquota() const
+    {
+        return tributacao_ipi_calculo_aliquota_;
+    }
     tributacao_ipi& set_tributacao_ipi_calculo_aliquota(core::optional<tributacao_ipi_calculo_aliquota> value)
     {
         tributacao_ipi_calculo_aliquota_ = std::move(value);
@@ -74,7 +80,10 @@ public:
     }
 
     // qUnid and vUnid
-    core::optional<tributacao_ipi_calculo_valor> get_tributacao_ipi_calculo_valor() const { return tributacao_ipi_calculo_valor_; }
+    core::optional<tributacao_ipi_calculo_valor> get_tributacao_ipi_calculo_valor() const
+    {
+        return tributacao_ipi_calculo_valor_;
+    }
     tributacao_ipi& set_tributacao_ipi_calculo_valor(core::optional<tributacao_ipi_calculo_valor> value)
     {
         tributacao_ipi_calculo_valor_ = std::move(value);

@@ -2,8 +2,8 @@
 
 #include <velk/core/decimal.hpp>
 #include <velk/core/optional.hpp>
+#include <velk/erp/fiscal/detail/icms_proprio.hpp>
 #include <velk/erp/fiscal/grupo_fcp.hpp>
-#include <velk/erp/fiscal/modalidade_bc_icms.hpp>
 
 #include <utility>
 
@@ -12,45 +12,13 @@ inline namespace v4 {
 namespace fiscal {
 
 // Own ICMS of a group ICMS90.
-class tributacao_normal_icms_90 {
+class tributacao_normal_icms_90 : public detail::icms_proprio<tributacao_normal_icms_90> {
 public:
-    // modBC
-    modalidade_bc_icms get_modalidade_bc_icms() const { return modalidade_bc_icms_; }
-    tributacao_normal_icms_90& set_modalidade_bc_icms(modalidade_bc_icms value)
-    {
-        modalidade_bc_icms_ = value;
-        return *this;
-    }
-
-    // vBC
-    core::optional<core::decimal> get_valor_bc_icms() const { return valor_bc_icms_; }
-    tributacao_normal_icms_90& set_valor_bc_icms(core::optional<core::decimal> value)
-    {
-        valor_bc_icms_ = std::move(value);
-        return *this;
-    }
-
     // pRedBC
     core::optional<core::decimal> get_percentual_reducao_bc_icms() const { return percentual_reducao_bc_icms_; }
     tributacao_normal_icms_90& set_percentual_reducao_bc_icms(core::optional<core::decimal> value)
     {
         percentual_reducao_bc_icms_ = std::move(value);
-        return *this;
-    }
-
-    // pICMS
-    core::optional<core::decimal> get_aliquota_icms() const { return aliquota_icms_; }
-    tributacao_normal_icms_90& set_aliquota_icms(core::optional<core::decimal> value)
-    {
-        aliquota_icms_ = std::move(value);
-        return *this;
-    }
-
-    // vICMS
-    core::optional<core::decimal> get_valor_icms() const { return valor_icms_; }
-    tributacao_normal_icms_90& set_valor_icms(core::optional<core::decimal> value)
-    {
-        valor_icms_ = std::move(value);
         return *this;
     }
 
@@ -63,11 +31,7 @@ public:
     }
 
 private:
-    modalidade_bc_icms modalidade_bc_icms_{};
-    core::optional<core::decimal> valor_bc_icms_;
     core::optional<core::decimal> percentual_reducao_bc_icms_;
-    core::optional<core::decimal> aliquota_icms_;
-    core::optional<core::decimal> valor_icms_;
     core::optional<grupo_fcp> fcp_;
 };
 
