@@ -17,41 +17,16 @@ namespace {
 using namespace velk::erp::fiscal;
 using velk::test::documento_de;
 using velk::test::elemento_em;
+using velk::test::no_destinatario;
+using velk::test::no_emitente;
+using velk::test::no_endereco_emitente;
 using velk::test::valor;
-
-template <class Alterar>
-void no_emitente(nota_fiscal& nota, Alterar alterar)
-{
-    emitente parte = nota.get_emitente();
-    alterar(parte);
-    nota.set_emitente(parte);
-}
-
-template <class Alterar>
-void no_endereco_emitente(nota_fiscal& nota, Alterar alterar)
-{
-    no_emitente(nota, [&](emitente& e) {
-        endereco parte = e.get_endereco();
-        alterar(parte);
-        e.set_endereco(parte);
-    });
-}
-
-template <class Alterar>
-void no_destinatario(nota_fiscal& nota, Alterar alterar)
-{
-    destinatario parte = *nota.get_destinatario();
-    alterar(parte);
-    nota.set_destinatario(parte);
-}
 
 // The first item: the medicine.
 template <class Alterar>
 void no_primeiro_produto(nota_fiscal& nota, Alterar alterar)
 {
-    std::vector<produto> produtos = nota.get_produtos();
-    alterar(produtos.at(0));
-    nota.set_produtos(produtos);
+    velk::test::no_produto(nota, 0, alterar);
 }
 
 struct escrita {
@@ -69,8 +44,9 @@ void PrintTo(escrita const& caso, std::ostream* saida)
 
 std::vector<escrita> const escritas = {
     // ide
-    {"NFC-e offline contingency writes 9", [](nota_fiscal& n) { n.set_tipo_emissao(tipo_emissao::contingencia_offline_nfce); },
-     "ide", "tpEmis", "<tpEmis>9</tpEmis>"},
+    {"NFC-e offline contingency writes 9",
+     [](nota_fiscal& n) { n.set_tipo_emissao(tipo_emissao::contingencia_offline_nfce); }, "ide", "tpEmis",
+     "<tpEmis>9</tpEmis>"},
     {"SVC-AN writes 6", [](nota_fiscal& n) { n.set_tipo_emissao(tipo_emissao::contingencia_svc_an); }, "ide", "tpEmis",
      "<tpEmis>6</tpEmis>"},
     {"presence value 6 writes 9",
@@ -120,7 +96,9 @@ std::vector<escrita> const escritas = {
     {"no phone", [](nota_fiscal& n) { no_emitente(n, [](emitente& e) { e.set_telefone({}); }); }, "emit", "fone", ""},
     {"Simples Nacional above the sub-limit writes CRT 2",
      [](nota_fiscal& n) {
-         no_emitente(n, [](emitente& e) { e.set_regime_fiscal(regime_tributario::simples_nacional_excesso_sublimite); });
+         no_emitente(n, [](emitente& e) {
+             e.set_regime_fiscal(regime_tributario::simples_nacional_excesso_sublimite);
+         });
      },
      "emit", "CRT", "<CRT>2</CRT>"},
     {"IE of the substitute", [](nota_fiscal& n) { no_emitente(n, [](emitente& e) { e.set_iest("330012345"); }); },
@@ -179,7 +157,9 @@ std::vector<escrita> const escritas = {
      "det", "cEAN", "<cEAN/>"},
     {"item outside the total",
      [](nota_fiscal& n) {
-         no_primeiro_produto(n, [](produto& p) { p.set_indicador_item_compoe_valor_total(indicador_total::nao_compoe); });
+         no_primeiro_produto(n, [](produto& p) {
+             p.set_indicador_item_compoe_valor_total(indicador_total::nao_compoe);
+         });
      },
      "det", "indTot", "<indTot>0</indTot>"},
     {"tax benefit code",

@@ -9,10 +9,47 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 namespace velk::test {
+
+// A part of a note changed in place: the model gives copies, so each helper
+// reads the part, changes it and puts it back.
+template <class Alterar>
+void no_emitente(erp::fiscal::nota_fiscal& nota, Alterar alterar)
+{
+    erp::fiscal::emitente parte = nota.get_emitente();
+    alterar(parte);
+    nota.set_emitente(parte);
+}
+
+template <class Alterar>
+void no_endereco_emitente(erp::fiscal::nota_fiscal& nota, Alterar alterar)
+{
+    no_emitente(nota, [&](erp::fiscal::emitente& emitente) {
+        erp::fiscal::endereco parte = emitente.get_endereco();
+        alterar(parte);
+        emitente.set_endereco(parte);
+    });
+}
+
+template <class Alterar>
+void no_destinatario(erp::fiscal::nota_fiscal& nota, Alterar alterar)
+{
+    erp::fiscal::destinatario parte = nota.get_destinatario().value();
+    alterar(parte);
+    nota.set_destinatario(parte);
+}
+
+template <class Alterar>
+void no_produto(erp::fiscal::nota_fiscal& nota, std::size_t indice, Alterar alterar)
+{
+    std::vector<erp::fiscal::produto> produtos = nota.get_produtos();
+    alterar(produtos.at(indice));
+    nota.set_produtos(produtos);
+}
 
 // The document of a note through both stages; the test fails if either fails.
 inline xml::document documento_de(erp::fiscal::nota_fiscal const& nota)

@@ -1,6 +1,8 @@
 // Every value of the opening groups and the products that the builder can
 // refuse: the code, its words, the argument "value" and the items beneath.
 
+#include "layout_teste.hpp"
+
 #include <support/notas_fiscais.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/montar_layout_4_00.hpp>
 #include <velk/erp/tarn/nfe/processar_nota_result_category.hpp>
@@ -20,34 +22,9 @@ using namespace velk::erp::fiscal;
 using velk::core::result::stack;
 using velk::erp::tarn::nfe::processar_nota_result_category;
 using velk::erp::tarn::nfe::layout_4_00::montar_layout_4_00;
-
-// A part of the note changed in place: the model gives copies, so each helper
-// reads the part, changes it and puts it back.
-template <class Alterar>
-void no_emitente(nota_fiscal& nota, Alterar alterar)
-{
-    emitente parte = nota.get_emitente();
-    alterar(parte);
-    nota.set_emitente(parte);
-}
-
-template <class Alterar>
-void no_endereco_emitente(nota_fiscal& nota, Alterar alterar)
-{
-    no_emitente(nota, [&](emitente& e) {
-        endereco parte = e.get_endereco();
-        alterar(parte);
-        e.set_endereco(parte);
-    });
-}
-
-template <class Alterar>
-void no_destinatario(nota_fiscal& nota, Alterar alterar)
-{
-    destinatario parte = *nota.get_destinatario();
-    alterar(parte);
-    nota.set_destinatario(parte);
-}
+using velk::test::no_destinatario;
+using velk::test::no_emitente;
+using velk::test::no_endereco_emitente;
 
 template <class Alterar>
 void na_entrega(nota_fiscal& nota, Alterar alterar)
@@ -61,9 +38,7 @@ void na_entrega(nota_fiscal& nota, Alterar alterar)
 template <class Alterar>
 void no_produto_importado(nota_fiscal& nota, Alterar alterar)
 {
-    std::vector<produto> produtos = nota.get_produtos();
-    alterar(produtos.at(1));
-    nota.set_produtos(produtos);
+    velk::test::no_produto(nota, 1, alterar);
 }
 
 template <class Alterar>
