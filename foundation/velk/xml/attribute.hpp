@@ -8,7 +8,7 @@ inline namespace v3 {
 // An attribute as written: its name may carry a prefix ("xsi:type").
 class attribute {
 public:
-    attribute(std::string const& name, std::string const& value);
+    attribute(std::string name, std::string value);
 
     std::string const& get_name() const { return name_; }
     // The name without its prefix.

@@ -16,7 +16,9 @@ struct version_1_0 {
 }  // namespace canonicalization_parameters
 
 // Canonical XML 1.0 of a serialised document, as XML signatures digest it.
-// The input is parsed with the same safety rules as document::load.
+// The input is parsed with the same safety rules as document::load (codes 1
+// and 2); a document that cannot be canonicalised, one with a relative
+// namespace URI for instance, is code 8.
 core::byte_array canonicalize(core::byte_array const& xml, canonicalization_parameters::version_1_0 const& parameters,
                               core::result::stack& stack);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -8,7 +9,7 @@ inline namespace v3 {
 // A CDATA section: saved as <![CDATA[...]]>, its contents are not escaped.
 class cdata_section {
 public:
-    explicit cdata_section(std::string const& contents) : contents_(contents) {}
+    explicit cdata_section(std::string contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }
     void set_contents(std::string const& contents) { contents_ = contents; }
 

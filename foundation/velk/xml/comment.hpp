@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -8,7 +9,7 @@ inline namespace v3 {
 // A comment, kept so that a parsed tree saves as it came.
 class comment {
 public:
-    explicit comment(std::string const& contents) : contents_(contents) {}
+    explicit comment(std::string contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }
 
 private:

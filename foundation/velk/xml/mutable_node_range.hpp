@@ -16,7 +16,12 @@ class mutable_node_range {
 public:
     using iterator = std::list<node>::iterator;
 
-    explicit mutable_node_range(std::list<node>& nodes) : nodes_(&nodes) {}
+    // With an owner, inserted elements take its namespaces as
+    // element::append_node gives them.
+    explicit mutable_node_range(std::list<node>& nodes, element const* owner = nullptr)
+        : nodes_(&nodes), owner_(owner)
+    {
+    }
 
     iterator begin();
     iterator end();
@@ -30,9 +35,13 @@ public:
     iterator insert(iterator position, element const& child);
     iterator insert(iterator position, element&& child);
     iterator insert(iterator position, node const& child);
+    iterator insert(iterator position, node&& child);
 
 private:
+    iterator adopted(iterator position);
+
     std::list<node>* nodes_;
+    element const* owner_;
 };
 
 }  // namespace v3

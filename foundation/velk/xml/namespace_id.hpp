@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -9,7 +10,7 @@ inline namespace v3 {
 // default namespace (xmlns="uri").
 class namespace_id {
 public:
-    namespace_id(std::string const& prefix, std::string const& uri) : prefix_(prefix), uri_(uri) {}
+    namespace_id(std::string prefix, std::string uri) : prefix_(std::move(prefix)), uri_(std::move(uri)) {}
 
     std::string const& get_prefix() const { return prefix_; }
     std::string const& get_uri() const { return uri_; }

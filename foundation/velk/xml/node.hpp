@@ -19,9 +19,13 @@ public:
     node(element const& value) : value_(value) {}
     node(element&& value) : value_(std::move(value)) {}
     node(text const& value) : value_(value) {}
+    node(text&& value) : value_(std::move(value)) {}
     node(cdata_section const& value) : value_(value) {}
+    node(cdata_section&& value) : value_(std::move(value)) {}
     node(comment const& value) : value_(value) {}
+    node(comment&& value) : value_(std::move(value)) {}
     node(processing_instruction const& value) : value_(value) {}
+    node(processing_instruction&& value) : value_(std::move(value)) {}
 
     node_type get_type() const { return static_cast<node_type>(value_.index() + 1); }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -8,7 +9,9 @@ inline namespace v3 {
 // A processing instruction inside an element: <?target data?>.
 class processing_instruction {
 public:
-    processing_instruction(std::string const& target, std::string const& data) : target_(target), data_(data) {}
+    processing_instruction(std::string target, std::string data) : target_(std::move(target)), data_(std::move(data))
+    {
+    }
     std::string const& get_target() const { return target_; }
     std::string const& get_data() const { return data_; }
 

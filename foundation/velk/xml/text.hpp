@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -8,7 +9,7 @@ inline namespace v3 {
 // A text node. Its contents are kept unescaped and escaped when saved.
 class text {
 public:
-    explicit text(std::string const& contents) : contents_(contents) {}
+    explicit text(std::string contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }
     void set_contents(std::string const& contents) { contents_ = contents; }
 

@@ -20,7 +20,8 @@ public:
     virtual ~tree_walker();
 
     // Visits the element itself first. Returns false when the stack failed
-    // during the visit (the visit stops there).
+    // during the visit (the visit stops there). The stack is tested after each
+    // on_enter_element, so hand in one that has not failed.
     bool traverse_element(element const& root, core::result::stack& stack);
 
     // While a visit runs: the local names from the element where it began to
@@ -30,12 +31,19 @@ public:
 
 protected:
     // Returns true to visit the element's children, false to skip them.
+    // A failure pushed on the stack here ends the visit at once: no further
+    // call is made, on_leave_element of the open elements included.
     virtual bool on_enter_element(element const& value, core::result::stack& stack);
+    // Called after the children, and also for an element whose children were
+    // skipped: every entered element is left, unless the visit failed.
     virtual void on_leave_element(element const& value);
     virtual void on_text(text const& value);
     virtual void on_cdata_section(cdata_section const& value);
 
 private:
+    bool visit(element const& value, core::result::stack& stack);
+
+    // The local names of the elements being visited; they belong to the tree.
     std::vector<std::string const*> path_;
 };
 

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <velk/core/result/category.hpp>
+
+#include <cstddef>
+
+namespace velk::core {
+inline namespace v3 {
+namespace result {
+
+// A category whose messages are a table indexed by code - 1. A null entry is
+// a code without words: asking for its message ends the process, as for any
+// number outside the table.
+class table_category : public category {
+public:
+    char const* get_name() const override { return name_; }
+    char const* get_message(int code) const override
+    {
+        if (code < 1 || static_cast<std::size_t>(code) > count_ || messages_[code - 1] == nullptr) {
+            show_invalid_value_message_and_exit(code);
+        }
+        return messages_[code - 1];
+    }
+
+protected:
+    template <std::size_t N>
+    table_category(char const* name, char const* const (&messages)[N]) : name_(name), messages_(messages), count_(N)
+    {
+    }
+
+private:
+    char const* name_;
+    char const* const* messages_;
+    std::size_t count_;
+};
+
+}  // namespace result
+}  // namespace v3
+}  // namespace velk::core

@@ -1,0 +1,242 @@
+#include "xml_test_helpers.hpp"
+
+#include <support/files.hpp>
+#include <velk/xml/document.hpp>
+#include <velk/xml/node.hpp>
+#include <velk/xml/xml_result_category.hpp>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using velk::core::byte_array;
+using velk::core::result::stack;
+using velk::test::parse_or_fail;
+using velk::test::saved_text;
+using namespace velk::xml;
+
+constexpr char const* declaration = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n";
+
+// Everything the tree holds, one line per node, for comparing two trees.
+std::string dump(element const& value, std::string const& indent = "")
+{
+    std::string out = indent + "<" + value.get_qualified_name() + " {" + value.get_namespace_uri() + "}";
+    for (auto const& declaration : value.get_namespaces()) {
+        out += " xmlns:" + declaration.get_prefix() + "=" + declaration.get_uri();
+    }
+    for (auto const& property : value.get_attributes()) {
+        out += " " + property.get_name() + "{" + property.get_namespace_uri() + "}=" + property.get_value();
+    }
+    out += "\n";
+    for (node const& child : value.get_node_range()) {
+        if (element const* nested = child.as_element()) {
+            out += dump(*nested, indent + " ");
+        } else {
+            std::string const contents = child.as_text()            ? child.as_text()->get_contents()
+                                         : child.as_cdata_section() ? child.as_cdata_section()->get_contents()
+                                         : child.as_comment()       ? child.as_comment()->get_contents()
+                                                                    : child.as_processing_instruction()->get_data();
+            out += indent + " #" + std::to_string(int(child.get_type())) + "[" + contents + "]\n";
+        }
+    }
+    return out;
+}
+
+std::vector<std::filesystem::path> sample_files()
+{
+    std::vector<std::filesystem::path> files;
+    for (auto const& entry : std::filesystem::recursive_directory_iterator(velk::test::sample(""))) {
+        if (entry.path().extension() == ".xml") {
+            files.push_back(entry.path());
+        }
+    }
+    return files;
+}
+
+TEST(document_round_trip, every_sample_keeps_its_tree_through_save_and_load)
+{
+    auto const files = sample_files();
+    ASSERT_GE(files.size(), 18u);
+    for (auto const& file : files) {
+        SCOPED_TRACE(file.filename().string());
+        stack report;
+        document first;
+        ASSERT_TRUE(first.load(velk::test::read_bytes(file), report)) << report.to_string();
+        byte_array const saved = document::save(first, report);
+        document second;
+        ASSERT_TRUE(second.load(saved, report)) << report.to_string();
+        EXPECT_EQ(dump(*first.get_root_element()), dump(*second.get_root_element()));
+        EXPECT_EQ(document::save(second, report), saved);
+        EXPECT_EQ(saved.to_string().rfind(declaration, 0), 0u);
+    }
+}
+
+TEST(document_round_trip, blanks_cdata_comments_and_instructions_stay_as_written)
+{
+    document parsed = parse_or_fail("<?xml version=\"1.0\" encoding=\"ISO-8859-1\"?>\n<!-- outside -->\n"
+                                    "<env:Envelope xmlns:env=\"urn:e\">\n  <env:Header/>\n  <q><![CDATA[a<b]]></q>"
+                                    "<!-- in --><?pi data?>\xE9</env:Envelope>\n");
+    element const& root = *parsed.get_root_element();
+    auto const children = root.get_node_range();
+    ASSERT_EQ(children.size(), 7u);
+    EXPECT_EQ(children.begin()->as_text()->get_contents(), "\n  ");
+    EXPECT_EQ(root.find_child("q")->get_node_range().begin()->as_cdata_section()->get_contents(), "a<b");
+    EXPECT_EQ(saved_text(parsed), std::string(declaration) +
+                                      "<env:Envelope xmlns:env=\"urn:e\">\n  <env:Header/>\n  <q><![CDATA[a<b]]></q>"
+                                      "<!-- in --><?pi data?>\xC3\xA9</env:Envelope>");
+}
+
+TEST(document_save, escapes_text_attributes_and_cdata)
+{
+    element root("t", text("a&b<c>d\re\"'\t\n"));
+    stack report;
+    ASSERT_TRUE(root.append_attribute(attribute("v", "a&<>\"'\t\n\r"), report));
+    root.append_node(cdata_section("x]]>y]]>"));
+    root.append_node(element("e"));
+    document holder;
+    ASSERT_TRUE(holder.append_node(std::move(root), report));
+
+    std::string const text = saved_text(holder);
+    EXPECT_EQ(text, std::string(declaration) +
+                        "<t v=\"a&amp;&lt;>&quot;'&#9;&#10;&#13;\">a&amp;b&lt;c&gt;d&#13;e\"'\t\n"
+                        "<![CDATA[x]]]]><![CDATA[>y]]]]><![CDATA[>]]><e/></t>");
+
+    document again = parse_or_fail(text);
+    element const& read = *again.get_root_element();
+    EXPECT_EQ(read.find_attribute("", "v")->get_value(), "a&<>\"'\t\n\r");
+    EXPECT_EQ(read.get_contents(), "a&b<c>d\re\"'\t\nx]]>y]]>");
+}
+
+TEST(document_save, refuses_a_missing_root_and_bad_names)
+{
+    struct save_case {
+        char const* child_name;  // null: no root at all
+        int code;
+    };
+    save_case const cases[] = {{nullptr, 7}, {"", 3}, {"bad name", 3}, {"p:", 3}};
+    for (auto const& item : cases) {
+        document target;
+        stack report;
+        if (item.child_name != nullptr) {
+            element root("root");
+            root.append_node(element(item.child_name));
+            target.append_node(root, report);
+        }
+        EXPECT_TRUE(document::save(target, report).empty());
+        ASSERT_TRUE(report.has_failed());
+        EXPECT_EQ(report.get_value(), item.code);
+        EXPECT_EQ(report.size(), 1u);
+    }
+
+    document full = parse_or_fail("<a/>");
+    stack report;
+    EXPECT_FALSE(full.append_node(element("b"), report));
+    EXPECT_EQ(report.get_value(), 6);
+}
+
+std::string nested(std::size_t depth)
+{
+    std::string text;
+    for (std::size_t i = 0; i < depth; ++i) {
+        text += "<a>";
+    }
+    for (std::size_t i = 0; i < depth; ++i) {
+        text += "</a>";
+    }
+    return text;
+}
+
+TEST(document_load, hostile_and_malformed_input_fails_cleanly)
+{
+    struct hostile_case {
+        char const* what;
+        std::string xml;
+        int code;
+    };
+    std::string const laughs = R"(<?xml version="1.0"?><!DOCTYPE lolz [<!ENTITY lol "lol">)"
+                               R"(<!ENTITY lol2 "&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;&lol;">)"
+                               R"(<!ENTITY lol3 "&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;&lol2;">)"
+                               R"(<!ENTITY lol4 "&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;&lol3;">)"
+                               R"(]><lolz>&lol4;&lol4;&lol4;&lol4;</lolz>)";
+    hostile_case const cases[] = {
+        {"mismatched tags", "<a><b></a>", 1},
+        {"unclosed tag", "<a>\n<b>\n", 1},
+        {"empty input", "", 1},
+        {"text only", "hello", 1},
+        {"two roots", "<a/><b/>", 1},
+        {"undeclared entity", "<a>&xxe;</a>", 1},
+        {"undeclared prefix", "<p:a/>", 1},
+        {"invalid UTF-8", "<a>\xFF\xFE</a>", 1},
+        {"entity bomb", laughs, 2},
+        {"external entity", R"(<!DOCTYPE a [<!ENTITY xxe SYSTEM "file:///etc/passwd">]><a>&xxe;</a>)", 2},
+        {"external DTD", R"(<!DOCTYPE a SYSTEM "http://127.0.0.1:9/a.dtd"><a/>)", 2},
+        {"parameter entity", R"(<!DOCTYPE a [<!ENTITY % p SYSTEM "file:///etc/passwd"> %p;]><a/>)", 2},
+        {"bare DOCTYPE", "<!DOCTYPE a><a/>", 2},
+        {"DOCTYPE after the root", "<a/><!DOCTYPE a>", 1},
+        {"very deep nesting", nested(100000), 1},
+    };
+    testing::internal::CaptureStderr();
+    for (auto const& item : cases) {
+        SCOPED_TRACE(item.what);
+        document target = parse_or_fail("<kept/>");
+        stack report;
+        EXPECT_FALSE(target.load(byte_array(item.xml), report));
+        ASSERT_TRUE(report.has_failed());
+        EXPECT_EQ(report.size(), 1u);
+        EXPECT_TRUE(report.get_category() == xml_result_category::instance());
+        EXPECT_EQ(report.get_value(), item.code) << report.to_string();
+        if (item.code == 1) {
+            EXPECT_FALSE(report.top().find_argument("description")->empty());
+            EXPECT_NE(report.top().find_argument("line"), nullptr);
+        }
+        EXPECT_EQ(report.to_string().find("root:"), std::string::npos);
+        EXPECT_EQ(target.get_root_element()->get_name(), "kept");
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(document_load, malformed_input_reports_libxml2_message_and_line)
+{
+    document target;
+    stack report;
+    EXPECT_FALSE(target.load(byte_array("<a>\n<b>\n</a>"), report));
+    EXPECT_EQ(*report.top().find_argument("line"), "3");
+    EXPECT_EQ(*report.top().find_argument("description"), "Opening and ending tag mismatch: b line 2 and a");
+}
+
+TEST(document_load, several_threads_parse_and_save_at_once)
+{
+    std::vector<byte_array> inputs;
+    std::vector<byte_array> expected;
+    for (auto const& file : sample_files()) {
+        stack report;
+        document parsed;
+        parsed.load(inputs.emplace_back(velk::test::read_bytes(file)), report);
+        expected.push_back(document::save(parsed, report));
+    }
+    std::vector<int> mismatches(4, 0);
+    std::vector<std::thread> threads;
+    for (int& mismatch : mismatches) {
+        threads.emplace_back([&] {
+            for (int round = 0; round < 10 * static_cast<int>(inputs.size()); ++round) {
+                stack report;
+                document parsed;
+                document broken;
+                parsed.load(inputs[round % inputs.size()], report);
+                broken.load(byte_array("<a><b></a>"), report);
+                mismatch += document::save(parsed, report) != expected[round % inputs.size()];
+            }
+        });
+    }
+    for (auto& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(mismatches, std::vector<int>(4, 0));
+}
+
+}  // namespace

@@ -1,0 +1,127 @@
+#include <velk/erp/tarn/ambiente.hpp>
+#include <velk/erp/tarn/modelo.hpp>
+#include <velk/erp/tarn/nfe/detail/tipo_evento.hpp>
+#include <velk/erp/tarn/nfe/servidor_emissao.hpp>
+#include <velk/erp/tarn/nfe/versao.hpp>
+#include <velk/erp/tarn/nfe/versao_qrcode.hpp>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+namespace {
+
+using velk::core::chars_converter;
+using velk::core::converter_status;
+using velk::core::value_converter;
+namespace tarn = velk::erp::tarn;
+
+template <class T>
+std::pair<converter_status, std::string> write(T value, unsigned long room)
+{
+    char buffer[64] = {};
+    unsigned long size = room;
+    converter_status const status = chars_converter<T>::make_chars(buffer, size, value);
+    return {status, status == converter_status::done ? std::string(buffer, size) : std::to_string(size)};
+}
+
+template <class T>
+converter_status read(T& value, std::string const& text)
+{
+    return value_converter<T>::make_value(value, text.data(), text.size());
+}
+
+TEST(enumeracoes, texts_written_with_enough_room)
+{
+    EXPECT_EQ(write(tarn::ambiente::homologacao, 64).second, "homologação");
+    EXPECT_EQ(write(tarn::ambiente::producao, 64).second, "produção");
+    EXPECT_EQ(write(tarn::modelo::nfe, 64).second, "NFe");
+    EXPECT_EQ(write(tarn::modelo::nfce, 64).second, "NFCe");
+    EXPECT_EQ(write(tarn::nfe::versao::versao_3_10, 64).second, "3.10");
+    EXPECT_EQ(write(tarn::nfe::versao::versao_4_00, 64).second, "4.00");
+    EXPECT_EQ(write(tarn::nfe::versao::versao_2_00, 64).second, "2.00");
+    EXPECT_EQ(write(tarn::nfe::servidor_emissao::contingencia_rs, 64).second, "contingencia-rs");
+    EXPECT_EQ(write(tarn::nfe::servidor_emissao::ambiente_nacional, 64).second, "ambiente nacional");
+    EXPECT_EQ(write(tarn::nfe::detail::tipo_evento::epec, 64).second, "110140");
+    EXPECT_EQ(write(tarn::nfe::detail::tipo_evento::operacao_nao_realizada, 64).second, "210240");
+    // The QR code version writes its terminator and counts it.
+    EXPECT_EQ(write(tarn::nfe::versao_qrcode::versao_200, 64).second, std::string("200\0", 4));
+    EXPECT_EQ(tarn::get_codigo_ambiente(tarn::ambiente::homologacao), 2);
+    EXPECT_EQ(tarn::get_codigo_ambiente(tarn::ambiente::producao), 1);
+    EXPECT_EQ(tarn::get_codigo_ambiente(static_cast<tarn::ambiente>(2)), 0);
+    EXPECT_EQ(tarn::get_codigo_modelo(tarn::modelo::nfce), 65);
+    EXPECT_EQ(tarn::get_codigo_modelo(static_cast<tarn::modelo>(9)), 0);
+}
+
+TEST(enumeracoes, room_and_value_are_checked_in_each_type_own_order)
+{
+    struct row {
+        std::pair<converter_status, std::string> result;
+        converter_status status;
+        char const* size_or_text;
+    };
+    for (row const& r : {
+             // ambiente: the value first, then the room of its own text.
+             row{write(static_cast<tarn::ambiente>(2), 0), converter_status::invalid_value, ""},
+             row{write(tarn::ambiente::homologacao, 12), converter_status::buffer_too_small, "13"},
+             row{write(tarn::ambiente::producao, 9), converter_status::buffer_too_small, "10"},
+             // modelo asks for 4 bytes for every value, "NFe" included.
+             row{write(tarn::modelo::nfe, 3), converter_status::buffer_too_small, "4"},
+             row{write(static_cast<tarn::modelo>(2), 3), converter_status::buffer_too_small, "4"},
+             row{write(static_cast<tarn::modelo>(2), 4), converter_status::invalid_value, ""},
+             row{write(static_cast<tarn::nfe::versao>(3), 3), converter_status::buffer_too_small, "4"},
+             row{write(static_cast<tarn::nfe::versao>(3), 4), converter_status::invalid_value, ""},
+             row{write(tarn::nfe::versao_qrcode::versao_100, 2), converter_status::buffer_too_small, "3"},
+             row{write(static_cast<tarn::nfe::versao_qrcode>(2), 3), converter_status::invalid_value, ""},
+             row{write(tarn::nfe::servidor_emissao::normal, 17), converter_status::buffer_too_small, "18"},
+             row{write(tarn::nfe::detail::tipo_evento::cancelamento, 5), converter_status::buffer_too_small, "6"},
+             row{write(static_cast<tarn::nfe::detail::tipo_evento>(8), 6), converter_status::invalid_value, ""},
+         }) {
+        EXPECT_EQ(r.result.first, r.status);
+        if (r.status == converter_status::buffer_too_small) {
+            EXPECT_EQ(r.result.second, r.size_or_text);
+        }
+    }
+}
+
+TEST(enumeracoes, reading_accepts_only_the_listed_texts_and_keeps_the_target_otherwise)
+{
+    tarn::ambiente ambiente = tarn::ambiente::producao;
+    EXPECT_EQ(read(ambiente, "2"), converter_status::done);
+    EXPECT_EQ(ambiente, tarn::ambiente::homologacao);
+    EXPECT_EQ(read(ambiente, "produção"), converter_status::done);
+    EXPECT_EQ(ambiente, tarn::ambiente::producao);
+    for (char const* bad : {"0", "3", "producao", "Produção", ""}) {
+        EXPECT_EQ(read(ambiente, bad), converter_status::invalid_value) << bad;
+        EXPECT_EQ(ambiente, tarn::ambiente::producao);
+    }
+
+    tarn::modelo modelo = tarn::modelo::nfe;
+    EXPECT_EQ(read(modelo, "nfc"), converter_status::done);
+    EXPECT_EQ(modelo, tarn::modelo::nfce);
+    EXPECT_EQ(read(modelo, "55"), converter_status::done);
+    EXPECT_EQ(modelo, tarn::modelo::nfe);
+    // What make_chars writes does not read back.
+    for (char const* bad : {"nfce", "NFe", "NFCe", "57", "5"}) {
+        EXPECT_EQ(read(modelo, bad), converter_status::invalid_value) << bad;
+    }
+
+    tarn::nfe::versao versao = tarn::nfe::versao::versao_3_10;
+    EXPECT_EQ(read(versao, "4.00"), converter_status::done);
+    EXPECT_EQ(versao, tarn::nfe::versao::versao_4_00);
+    for (char const* bad : {"4.0", "4.000", "1.00"}) {
+        EXPECT_EQ(read(versao, bad), converter_status::invalid_value) << bad;
+    }
+
+    tarn::nfe::versao_qrcode qrcode = tarn::nfe::versao_qrcode::versao_100;
+    EXPECT_EQ(read(qrcode, "200"), converter_status::done);
+    EXPECT_EQ(qrcode, tarn::nfe::versao_qrcode::versao_200);
+    EXPECT_EQ(read(qrcode, std::string("100\0", 4)), converter_status::invalid_value);
+
+    tarn::nfe::detail::tipo_evento evento = tarn::nfe::detail::tipo_evento::cancelamento;
+    EXPECT_EQ(read(evento, "210210"), converter_status::done);
+    EXPECT_EQ(evento, tarn::nfe::detail::tipo_evento::ciencia_operacao);
+    EXPECT_EQ(read(evento, "110113"), converter_status::invalid_value);
+}
+
+}  // namespace

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <velk/core/converter.hpp>
+
+namespace velk::erp::inline v4::tarn::nfe {
+
+// The format of the NFC-e consumer QR code.
+enum class versao_qrcode : int {
+    versao_100 = 0,  // 1.00, query-string form
+    versao_200 = 1,  // 2.00, pipe-separated form
+};
+
+}  // namespace velk::erp::inline v4::tarn::nfe
+
+namespace velk::core {
+inline namespace v3 {
+
+// Asks for 3 bytes of room but writes the three digits AND a terminating zero
+// byte, reporting a size of 4: the QR code generators rely on the text with
+// its terminator, so the asymmetry stays.
+template <>
+struct chars_converter<erp::tarn::nfe::versao_qrcode> {
+    static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::nfe::versao_qrcode value);
+};
+
+template <>
+struct value_converter<erp::tarn::nfe::versao_qrcode> {
+    static converter_status make_value(erp::tarn::nfe::versao_qrcode& value, char const* text, unsigned long size);
+};
+
+}  // namespace v3
+}  // namespace velk::core
