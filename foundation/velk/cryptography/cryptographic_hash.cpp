@@ -1,0 +1,149 @@
+#include <velk/cryptography/cryptographic_hash.hpp>
+
+#include <velk/core/result/report.hpp>
+#include <velk/cryptography/cryptography_result_category.hpp>
+#include <velk/cryptography/detail/openssl.hpp>
+
+namespace velk::cryptography {
+inline namespace v3 {
+
+namespace {
+
+struct algorithm_row {
+    cryptographic_hash::algorithm value;
+    char const* name;
+    EVP_MD const* (*digest)();
+};
+
+constexpr algorithm_row algorithms[] = {
+    {cryptographic_hash::algorithm::sha1, "sha1", EVP_sha1},
+    {cryptographic_hash::algorithm::sha256, "sha256", EVP_sha256},
+    {cryptographic_hash::algorithm::sha512, "sha512", EVP_sha512},
+};
+
+algorithm_row const* find_algorithm(cryptographic_hash::algorithm value)
+{
+    for (auto const& row : algorithms) {
+        if (row.value == value) {
+            return &row;
+        }
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+namespace detail {
+
+EVP_MD const* message_digest(cryptographic_hash::algorithm algorithm)
+{
+    algorithm_row const* row = find_algorithm(algorithm);
+    return row == nullptr ? nullptr : row->digest();
+}
+
+}  // namespace detail
+
+struct cryptographic_hash::impl {
+    algorithm value = algorithm::sha1;
+    detail::openssl_ptr<EVP_MD_CTX> context;
+    // Set when OpenSSL refused an update or a copy; finish then reports it.
+    bool broken = false;
+};
+
+cryptographic_hash::cryptographic_hash() = default;
+cryptographic_hash::cryptographic_hash(cryptographic_hash&& other) noexcept = default;
+cryptographic_hash& cryptographic_hash::operator=(cryptographic_hash&& other) noexcept = default;
+cryptographic_hash::~cryptographic_hash() = default;
+
+cryptographic_hash::cryptographic_hash(cryptographic_hash const& other)
+{
+    if (other.impl_ == nullptr) {
+        return;
+    }
+    impl_ = std::make_unique<impl>();
+    impl_->value = other.impl_->value;
+    impl_->context.reset(EVP_MD_CTX_new());
+    impl_->broken = other.impl_->broken || impl_->context == nullptr ||
+                    EVP_MD_CTX_copy_ex(impl_->context.get(), other.impl_->context.get()) != 1;
+}
+
+cryptographic_hash& cryptographic_hash::operator=(cryptographic_hash const& other)
+{
+    if (this != &other) {
+        *this = cryptographic_hash(other);
+    }
+    return *this;
+}
+
+cryptographic_hash cryptographic_hash::from_algorithm(algorithm value, core::result::stack& stack)
+{
+    algorithm_row const* row = find_algorithm(value);
+    if (row == nullptr) {
+        core::result::fresh<cryptography_result_category, 11>(stack, get_name(value));
+        return {};
+    }
+    cryptographic_hash hash;
+    hash.impl_ = std::make_unique<impl>();
+    hash.impl_->value = value;
+    hash.impl_->context.reset(EVP_MD_CTX_new());
+    if (hash.impl_->context == nullptr || EVP_DigestInit_ex(hash.impl_->context.get(), row->digest(), nullptr) != 1) {
+        core::result::fresh<cryptography_result_category, 9>(stack, row->name,
+                                                              detail::take_openssl_errors("EVP_DigestInit_ex"));
+        return {};
+    }
+    return hash;
+}
+
+std::string cryptographic_hash::get_name(algorithm value)
+{
+    algorithm_row const* row = find_algorithm(value);
+    return row == nullptr ? std::to_string(static_cast<int>(value)) : std::string(row->name);
+}
+
+void cryptographic_hash::update(core::byte_array const& bytes)
+{
+    update(bytes.data(), bytes.size());
+}
+
+void cryptographic_hash::update(std::string const& text)
+{
+    update(reinterpret_cast<unsigned char const*>(text.data()), text.size());
+}
+
+void cryptographic_hash::update(unsigned char const* data, std::size_t size)
+{
+    if (impl_ == nullptr || impl_->broken || size == 0) {
+        return;
+    }
+    impl_->broken = EVP_DigestUpdate(impl_->context.get(), data, size) != 1;
+}
+
+core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
+{
+    if (impl_ == nullptr) {
+        core::result::fresh<cryptography_result_category, 9>(stack, "", "objeto de hash vazio");
+        return {};
+    }
+    std::string const name = get_name(impl_->value);
+    if (impl_->broken) {
+        core::result::fresh<cryptography_result_category, 9>(stack, name,
+                                                              detail::take_openssl_errors("EVP_DigestUpdate"));
+        return {};
+    }
+    // Finishing consumes a context: finish a copy so the running state stays.
+    detail::openssl_ptr<EVP_MD_CTX> copy(EVP_MD_CTX_new());
+    unsigned char digest[EVP_MAX_MD_SIZE];
+    unsigned int size = 0;
+    if (copy == nullptr || EVP_MD_CTX_copy_ex(copy.get(), impl_->context.get()) != 1 ||
+        EVP_DigestFinal_ex(copy.get(), digest, &size) != 1) {
+        core::result::fresh<cryptography_result_category, 9>(stack, name,
+                                                              detail::take_openssl_errors("EVP_DigestFinal_ex"));
+        return {};
+    }
+    core::byte_array bytes;
+    bytes.assign(digest, digest + size);
+    return bytes;
+}
+
+}  // namespace v3
+}  // namespace velk::cryptography

@@ -1,0 +1,65 @@
+#pragma once
+
+// Internal to the cryptography libraries (never included by callers): the
+// OpenSSL objects behind the value classes, owned through unique pointers, and
+// the text of OpenSSL's error queue for failure reports.
+
+#include <velk/cryptography/cryptographic_hash.hpp>
+#include <velk/cryptography/evp_private_key.hpp>
+#include <velk/cryptography/x509_certificate.hpp>
+
+#include <openssl/bio.h>
+#include <openssl/evp.h>
+#include <openssl/pkcs12.h>
+#include <openssl/x509.h>
+
+#include <memory>
+#include <string>
+
+namespace velk::cryptography {
+inline namespace v3 {
+namespace detail {
+
+struct openssl_deleter {
+    void operator()(X509* value) const { X509_free(value); }
+    void operator()(EVP_PKEY* value) const { EVP_PKEY_free(value); }
+    void operator()(EVP_MD_CTX* value) const { EVP_MD_CTX_free(value); }
+    void operator()(BIO* value) const { BIO_free(value); }
+    void operator()(PKCS12* value) const { PKCS12_free(value); }
+    void operator()(STACK_OF(X509) * value) const { sk_X509_pop_free(value, X509_free); }
+};
+
+template <class T>
+using openssl_ptr = std::unique_ptr<T, openssl_deleter>;
+
+// Empties this thread's OpenSSL error queue and gives its reasons joined by
+// "; ", or `fallback` when the queue held none. Emptying it keeps old reasons
+// from being blamed on a later, unrelated call (libcurl reads the same queue).
+std::string take_openssl_errors(char const* fallback);
+
+// False, with code 8 on the stack, for a value outside the enumeration.
+bool is_known_encoding(encoding format, core::result::stack& stack);
+
+// A read-only memory BIO over the bytes; they must outlive it.
+openssl_ptr<BIO> memory_source(unsigned char const* data, std::size_t size);
+// The bytes written so far into a memory BIO.
+core::byte_array memory_contents(BIO* sink);
+
+// The OpenSSL digest of an algorithm; null for a value outside the enumeration.
+EVP_MD const* message_digest(cryptographic_hash::algorithm algorithm);
+
+// Null for a key type that evp_private_key accepts, else the type's name.
+char const* unsupported_key_type(EVP_PKEY const* key);
+
+}  // namespace detail
+
+struct x509_certificate::impl {
+    detail::openssl_ptr<X509> handle;
+};
+
+struct evp_private_key::impl {
+    detail::openssl_ptr<EVP_PKEY> handle;
+};
+
+}  // namespace v3
+}  // namespace velk::cryptography

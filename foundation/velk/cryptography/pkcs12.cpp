@@ -1,0 +1,141 @@
+#include <velk/cryptography/pkcs12.hpp>
+
+#include <velk/core/result/report.hpp>
+#include <velk/cryptography/cryptography_result_category.hpp>
+#include <velk/cryptography/detail/openssl.hpp>
+
+#include <openssl/err.h>
+#include <openssl/provider.h>
+
+#include <mutex>
+
+namespace velk::cryptography {
+inline namespace v3 {
+
+namespace {
+
+struct parsed_bundle {
+    detail::openssl_ptr<EVP_PKEY> key;
+    detail::openssl_ptr<X509> certificate;
+    unsigned long error = 0;  // OpenSSL's last error code when parsing failed
+};
+
+parsed_bundle parse(PKCS12* bundle, std::string const& password)
+{
+    parsed_bundle result;
+    EVP_PKEY* key = nullptr;
+    X509* certificate = nullptr;
+    STACK_OF(X509)* chain = nullptr;
+    if (PKCS12_parse(bundle, password.c_str(), &key, &certificate, &chain) != 1) {
+        result.error = ERR_peek_last_error();
+        return result;
+    }
+    result.key.reset(key);
+    result.certificate.reset(certificate);
+    sk_X509_pop_free(chain, X509_free);
+    return result;
+}
+
+// Certificate files exported by older tools are encrypted with RC2-40, which
+// OpenSSL 3 keeps in its "legacy" provider. It is loaded on the first such
+// file only, next to the default provider (which stays available).
+bool load_legacy_algorithms()
+{
+    // Held for the life of the process, as the default context holds it.
+    static OSSL_PROVIDER* legacy = nullptr;
+    static std::once_flag once;
+    std::call_once(once, [] { legacy = OSSL_PROVIDER_try_load(nullptr, "legacy", 1); });
+    return legacy != nullptr;
+}
+
+bool is_wrong_password(unsigned long error)
+{
+    return ERR_GET_LIB(error) == ERR_LIB_PKCS12 && ERR_GET_REASON(error) == PKCS12_R_MAC_VERIFY_FAILURE;
+}
+
+}  // namespace
+
+struct pkcs12::impl {
+    x509_certificate certificate;
+    evp_private_key key;
+};
+
+pkcs12::pkcs12() = default;
+
+pkcs12 pkcs12::from_byte_array(core::byte_array const& bytes, std::string const& password,
+                               core::result::stack& stack)
+{
+    if (bytes.empty()) {
+        core::result::fresh<cryptography_result_category, 1>(stack, "conteúdo vazio");
+        return {};
+    }
+    unsigned char const* cursor = bytes.data();
+    detail::openssl_ptr<PKCS12> bundle(d2i_PKCS12(nullptr, &cursor, static_cast<long>(bytes.size())));
+    if (bundle == nullptr) {
+        core::result::fresh<cryptography_result_category, 1>(stack, detail::take_openssl_errors("d2i_PKCS12"));
+        return {};
+    }
+    parsed_bundle parsed = parse(bundle.get(), password);
+    if (parsed.error != 0 && !is_wrong_password(parsed.error) && load_legacy_algorithms()) {
+        detail::take_openssl_errors("");
+        parsed = parse(bundle.get(), password);
+    }
+    if (parsed.error != 0) {
+        if (is_wrong_password(parsed.error)) {
+            detail::take_openssl_errors("");
+            core::result::fresh<cryptography_result_category, 2>(stack);
+        } else {
+            core::result::fresh<cryptography_result_category, 1>(stack, detail::take_openssl_errors("PKCS12_parse"));
+        }
+        return {};
+    }
+    if (parsed.certificate == nullptr || parsed.key == nullptr) {
+        core::result::fresh<cryptography_result_category, 3>(stack,
+                                                              parsed.certificate == nullptr ? "certificado" : "chave privada");
+        return {};
+    }
+    if (char const* type = detail::unsupported_key_type(parsed.key.get())) {
+        core::result::fresh<cryptography_result_category, 6>(stack, type);
+        return {};
+    }
+    x509_certificate certificate;
+    certificate.impl_ =
+        std::make_shared<x509_certificate::impl const>(x509_certificate::impl{std::move(parsed.certificate)});
+    evp_private_key key;
+    key.impl_ = std::make_shared<evp_private_key::impl const>(evp_private_key::impl{std::move(parsed.key)});
+    return from_certificate_and_key(certificate, key, stack);
+}
+
+pkcs12 pkcs12::from_certificate_and_key(x509_certificate const& certificate, evp_private_key const& key,
+                                        core::result::stack& stack)
+{
+    if (certificate.empty() || key.empty()) {
+        core::result::fresh<cryptography_result_category, 3>(stack, certificate.empty() ? "certificado" : "chave privada");
+        return {};
+    }
+    if (!certificate.matches(key)) {
+        core::result::fresh<cryptography_result_category, 7>(stack, certificate.get_subject_common_name());
+        return {};
+    }
+    pkcs12 bundle;
+    bundle.impl_ = std::make_shared<impl const>(impl{certificate, key});
+    return bundle;
+}
+
+bool pkcs12::empty() const
+{
+    return impl_ == nullptr;
+}
+
+x509_certificate pkcs12::get_certificate() const
+{
+    return impl_ == nullptr ? x509_certificate() : impl_->certificate;
+}
+
+evp_private_key pkcs12::get_evp_private_key() const
+{
+    return impl_ == nullptr ? evp_private_key() : impl_->key;
+}
+
+}  // namespace v3
+}  // namespace velk::cryptography
