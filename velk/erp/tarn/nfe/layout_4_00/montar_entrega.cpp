@@ -2,18 +2,27 @@
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
-bool montar_entrega(fiscal::local_entrega const& local, grupo::entrega& entrega, core::result::stack& stack)
+namespace {
+
+// The CPF goes first, as for the recipient.
+bool montar_documento(fiscal::local_entrega const& local, grupo::cpf_cnpj_ou_estrangeiro& documento,
+                      core::result::stack& stack)
 {
     if (auto const cpf = local.get_cpf()) {
-        if (!ler_documento_cpf(*cpf, entrega.documento, stack)) {
-            return recusar<10>(stack, *cpf);
-        }
-    } else if (auto const cnpj = local.get_cnpj()) {
-        if (!ler_documento_cnpj(*cnpj, entrega.documento, stack)) {
-            return recusar<11>(stack, *cnpj);
-        }
-    } else {
-        return recusar<12>(stack);
+        return ler_documento_cpf(*cpf, documento, stack) || recusar<10>(stack, *cpf);
+    }
+    if (auto const cnpj = local.get_cnpj()) {
+        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<11>(stack, *cnpj);
+    }
+    return recusar<12>(stack);
+}
+
+}  // namespace
+
+bool montar_entrega(fiscal::local_entrega const& local, grupo::entrega& entrega, core::result::stack& stack)
+{
+    if (!montar_documento(local, entrega.documento, stack)) {
+        return false;
     }
     montar_logradouro(local.get_endereco(), entrega);
     return true;

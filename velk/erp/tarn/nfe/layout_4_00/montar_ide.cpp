@@ -57,20 +57,25 @@ bool montar_refNF(fiscal::nf_referenciada const& referencia, grupo::refNF& ref, 
     return true;
 }
 
+// Unlike the parties of the note, the producer's CNPJ goes before the CPF.
+bool montar_produtor(fiscal::nfp_referenciada const& referencia, grupo::cnpj_ou_cpf& documento,
+                     core::result::stack& stack)
+{
+    if (auto const cnpj = referencia.get_cnpj()) {
+        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<1>(stack, *cnpj);
+    }
+    if (auto const cpf = referencia.get_cpf()) {
+        return ler_documento_cpf(*cpf, documento, stack) || recusar<2>(stack, *cpf);
+    }
+    return recusar<3>(stack);
+}
+
 bool montar_refNFP(fiscal::nfp_referenciada const& referencia, grupo::refNFP& ref, core::result::stack& stack)
 {
     ref.cUF = referencia.get_uf_emitente();
     ref.AAMM = referencia.get_ano_mes_emissao();
-    if (auto const cnpj = referencia.get_cnpj()) {
-        if (!ler_documento_cnpj(*cnpj, ref.documento, stack)) {
-            return recusar<1>(stack, *cnpj);
-        }
-    } else if (auto const cpf = referencia.get_cpf()) {
-        if (!ler_documento_cpf(*cpf, ref.documento, stack)) {
-            return recusar<2>(stack, *cpf);
-        }
-    } else {
-        return recusar<3>(stack);
+    if (!montar_produtor(referencia, ref.documento, stack)) {
+        return false;
     }
     ref.IE = referencia.get_ie();
     if (!mapear<19>(referencia.get_modelo(), mod_refNFP, ref.mod, stack)) {
