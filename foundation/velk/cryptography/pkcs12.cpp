@@ -41,10 +41,11 @@ parsed_bundle parse(PKCS12* bundle, std::string const& password)
 // file only, next to the default provider (which stays available).
 bool load_legacy_algorithms()
 {
+    // Held for the life of the process, as the default context holds it.
+    static OSSL_PROVIDER* legacy = nullptr;
     static std::once_flag once;
-    static bool loaded = false;
-    std::call_once(once, [] { loaded = OSSL_PROVIDER_try_load(nullptr, "legacy", 1) != nullptr; });
-    return loaded;
+    std::call_once(once, [] { legacy = OSSL_PROVIDER_try_load(nullptr, "legacy", 1); });
+    return legacy != nullptr;
 }
 
 bool is_wrong_password(unsigned long error)

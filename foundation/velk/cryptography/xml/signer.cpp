@@ -271,24 +271,20 @@ core::byte_array serialise(velk::xml::element& elemento_pai, core::result::stack
     return bytes;
 }
 
-}  // namespace
-
-signer::signer(x509_certificate const& certificate, evp_private_key const& key) : certificate_(certificate), key_(key)
+// The whole signature, reporting on a stack that starts empty.
+bool sign_in_place(x509_certificate const& certificate, evp_private_key const& key,
+                   velk::xml::element& elemento_pai, core::result::stack& stack)
 {
-}
-
-bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stack) const
-{
-    core::byte_array const certificate_der = certificate_.to_byte_array(encoding::der, stack);
+    core::byte_array const certificate_der = certificate.to_byte_array(encoding::der, stack);
     if (stack.has_failed()) {
         return false;
     }
-    if (key_.empty()) {
+    if (key.empty()) {
         core::result::fresh<category, 5>(stack, "chave vazia");
         return false;
     }
-    if (!certificate_.matches(key_)) {
-        core::result::fresh<category, 7>(stack, certificate_.get_subject_common_name());
+    if (!certificate.matches(key)) {
+        core::result::fresh<category, 7>(stack, certificate.get_subject_common_name());
         return false;
     }
     velk::xml::element* signature = last_child(elemento_pai, "Signature");
@@ -332,7 +328,7 @@ bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stac
     }
     auto const with_comments = detail::canonicalization_from_uri(*canonicalization);
     auto const signature_hash = detail::rsa_signature_from_uri(*signature_method);
-    if (!with_comments.has_value() || !signature_hash.has_value() || key_.get_type() != evp_private_key::type::rsa) {
+    if (!with_comments.has_value() || !signature_hash.has_value() || key.get_type() != evp_private_key::type::rsa) {
         core::result::fresh<category, 11>(stack, with_comments.has_value() ? *signature_method : *canonicalization);
         return false;
     }
@@ -362,7 +358,7 @@ bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stac
     if (!detail::subtree_canonicalizer::write(document.get(), signed_info, nullptr, *with_comments, collect, stack)) {
         return false;
     }
-    core::byte_array const signature_value = key_.sign(*signature_hash, canonical_signed_info, stack);
+    core::byte_array const signature_value = key.sign(*signature_hash, canonical_signed_info, stack);
     if (stack.has_failed()) {
         return false;
     }
@@ -372,12 +368,30 @@ bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stac
     }
     places.signature_value->set_contents(core::binary_encoder::encode(core::binary_encoding::base64, signature_value));
     if (places.x509_data != nullptr) {
-        std::string const certificate = core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
+        std::string const certificate_text = core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
         if (velk::xml::element* x509_certificate = places.x509_data->find_child("X509Certificate")) {
-            x509_certificate->set_contents(certificate);
+            x509_certificate->set_contents(certificate_text);
         } else {
-            places.x509_data->append_node(velk::xml::element("X509Certificate", velk::xml::text(certificate)));
+            places.x509_data->append_node(velk::xml::element("X509Certificate", velk::xml::text(certificate_text)));
         }
+    }
+    return true;
+}
+
+}  // namespace
+
+signer::signer(x509_certificate const& certificate, evp_private_key const& key) : certificate_(certificate), key_(key)
+{
+}
+
+bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stack) const
+{
+    // A stack of its own, so that items the caller left on its stack are not
+    // taken for failures of this call.
+    core::result::stack local;
+    if (!sign_in_place(certificate_, key_, elemento_pai, local)) {
+        stack = std::move(local);
+        return false;
     }
     return true;
 }

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <velk/erp/fiscal/detail/icms_st.hpp>
+
+namespace velk::erp {
+inline namespace v4 {
+namespace fiscal {
+
+// ICMS by substitution of a group ICMSSN900.
+class tributacao_st_icms_900 : public detail::icms_st<tributacao_st_icms_900> {};
+
+}  // namespace fiscal
+}  // namespace v4
+}  // namespace velk::erp

@@ -1,0 +1,445 @@
+#include <support/notas_fiscais.hpp>
+
+#include <cstdlib>
+#include <cstdio>
+#include <string>
+
+namespace velk::test {
+
+using namespace erp::fiscal;
+
+core::decimal valor(std::string_view texto)
+{
+    core::decimal resultado;
+    if (!core::decimal::parse(texto, resultado)) {
+        std::fprintf(stderr, "valor(\"%.*s\"): not a decimal\n", static_cast<int>(texto.size()), texto.data());
+        std::abort();
+    }
+    return resultado;
+}
+
+core::datetime horario_brasilia(int ano, unsigned mes, unsigned dia, int hora, unsigned minuto, unsigned segundo)
+{
+    return core::datetime(core::date(dia, mes, ano), core::time(hora, minuto, segundo, 0), -180);
+}
+
+namespace {
+
+// PIS and COFINS of a company of the Simples Nacional: collected in the
+// monthly payment, so "other operations" with zero values.
+tributacao_pis_cofins pis_cofins_simples_nacional()
+{
+    return tributacao_pis_cofins()
+        .set_grupo_tributacao_pis(grupo_tributacao_pis_outros()
+                                      .set_cst_pis(cst_pis_cofins_outras_operacoes::cst_99)
+                                      .set_valor_bc_pis(valor("0.00"))
+                                      .set_percentual_aliquota_pis(valor("0.00"))
+                                      .set_valor_pis(valor("0.00")))
+        .set_grupo_tributacao_cofins(grupo_tributacao_cofins_outros()
+                                         .set_cst_cofins(cst_pis_cofins_outras_operacoes::cst_99)
+                                         .set_valor_bc_cofins(valor("0.00"))
+                                         .set_percentual_aliquota_cofins(valor("0.00"))
+                                         .set_valor_cofins(valor("0.00")));
+}
+
+// PIS and COFINS charged once, at the manufacturer or importer (medicines,
+// fuel): not charged on this sale.
+tributacao_pis_cofins pis_cofins_monofasico()
+{
+    return tributacao_pis_cofins()
+        .set_grupo_tributacao_pis(grupo_tributacao_pis_nt().set_cst_pis(cst_pis_cofins_nao_tributado::cst_04))
+        .set_grupo_tributacao_cofins(
+            grupo_tributacao_cofins_nt().set_cst_cofins(cst_pis_cofins_nao_tributado::cst_04));
+}
+
+grupo_tributacao_icms_102 simples_nacional_sem_credito()
+{
+    return grupo_tributacao_icms_102().set_origem_mercadoria(origem_mercadoria::nacional).set_csosn(csosn::csosn_102);
+}
+
+produto produto_nfce(std::string codigo, std::string gtin, std::string descricao, std::uint32_t ncm,
+                     std::uint16_t cfop, std::string unidade, char const* quantidade, char const* preco,
+                     char const* total, char const* tributos)
+{
+    return produto()
+        .set_codigo_produto(std::move(codigo))
+        .set_codigo_de_barras(gtin)
+        .set_descricao(std::move(descricao))
+        .set_ncm(ncm)
+        .set_cfop(cfop)
+        .set_unidade_comercial(unidade)
+        .set_quantidade_comercial(valor(quantidade))
+        .set_valor_unitario_comercial(valor(preco))
+        .set_valor_total_bruto(valor(total))
+        .set_codigo_de_barras_tributavel(std::move(gtin))
+        .set_unidade_tributavel(std::move(unidade))
+        .set_quantidade_tributavel(valor(quantidade))
+        .set_valor_unitario_tributavel(valor(preco))
+        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
+        .set_valor_total_tributos(valor(tributos))
+        .set_tributacao(simples_nacional_sem_credito())
+        .set_tributacao_pis_cofins(pis_cofins_simples_nacional());
+}
+
+informacoes_responsavel_tecnico responsavel_tecnico()
+{
+    return informacoes_responsavel_tecnico()
+        .set_cnpj("19374562000123")
+        .set_nome_pessoa_contatada("Marina Okamoto")
+        .set_email("fiscal@velkerp.com.br")
+        .set_telefone("1140028922");
+}
+
+}  // namespace
+
+nota_fiscal nota_nfce_simples()
+{
+    emitente const padaria = emitente()
+                                 .set_cnpj("27164983000158")
+                                 .set_razao_social("Padaria e Mercearia Vila Madalena Ltda")
+                                 .set_nome_fantasia("Empório Vila Madalena")
+                                 .set_endereco(endereco()
+                                                   .set_logradouro("Rua Fradique Coutinho")
+                                                   .set_numero_endereco("1126")
+                                                   .set_bairro("Vila Madalena")
+                                                   .set_ibge_municipio(3550308)
+                                                   .set_nome_municipio("São Paulo")
+                                                   .set_uf("SP")
+                                                   .set_cep(5416001)
+                                                   .set_ibge_pais(1058)
+                                                   .set_pais("Brasil"))
+                                 .set_telefone("1138151234")
+                                 .set_ie("147293584118")
+                                 .set_regime_fiscal(regime_tributario::simples_nacional);
+
+    // 2 x 18.90 + 0.350 kg x 16.90 (5.915, billed 5.92) + 9.49 = 53.21
+    produto cafe = produto_nfce("000123", "7891023450018", "CAFE TORRADO E MOIDO TRADICIONAL 500G", 9012100, 5102,
+                                "UN", "2", "18.90", "37.80", "7.49");
+    produto pao = produto_nfce("000001", "SEM GTIN", "PAO FRANCES", 19059090, 5102, "KG", "0.350", "16.90", "5.92",
+                               "0.98");
+    produto refrigerante = produto_nfce("000457", "7894567002217", "REFRIGERANTE COLA PET 2L", 22021000, 5405, "UN",
+                                        "1", "9.49", "9.49", "3.12");
+    // Soft drinks bear ICMS by substitution, charged at the manufacturer.
+    refrigerante.set_cest(301100).set_tributacao(
+        grupo_tributacao_icms_500().set_origem_mercadoria(origem_mercadoria::nacional).set_csosn(csosn::csosn_500));
+
+    return nota_fiscal()
+        .set_chave_44_digitos("35240527164983000158650010000482131619382749")
+        .set_codigo_nf(61938274)
+        .set_natureza_operacao("VENDA")
+        .set_modelo_emissao("65")
+        .set_serie("1")
+        .set_numero(48213)
+        .set_data_emissao(horario_brasilia(2024, 5, 14, 18, 42, 37))
+        .set_tipo_operacao(tipo_operacao::saida)
+        .set_indicador_operacao(destino_operacao::interna)
+        .set_ibge_municipio_emissao(3550308)
+        .set_tipo_emissao(tipo_emissao::normal)
+        .set_indicador_ambiente(indicador_ambiente::homologacao)
+        .set_indicador_finalidade_emissao(finalidade_emissao::normal)
+        .set_operacao_consumidor_final(consumidor_final::sim)
+        .set_indicador_presenca(indicador_presenca::presencial)
+        .set_indicador_intermediador(indicador_intermediador::sem_intermediador)
+        .set_emitente(padaria)
+        .set_produtos({cafe, pao, refrigerante})
+        .set_total_nfe(total_nfe().set_total_icms(total_nfe_icms()
+                                                      .set_valor_total_dos_produtos_da_nota(valor("53.21"))
+                                                      .set_total_da_nota(valor("53.21"))
+                                                      .set_total_dos_tributos_do_item(valor("11.59"))))
+        .set_informacoes_transporte(informacoes_transporte().set_modalidade_frete(modalidade_frete::sem_transporte))
+        .set_informacoes_pagamento(informacoes_pagamento()
+                                       .set_detalhes_pagamento({detalhes_pagamento()
+                                                                    .set_meio_pagamento(meio_pagamento::dinheiro)
+                                                                    .set_valor_pagamento(valor("60.00"))})
+                                       .set_valor_total_troco(valor("6.79")))
+        .set_informacoes_adicionais(
+            informacoes_adicionais().set_informacoes_complementares("Tributos aproximados: R$ 11,59 (Fonte: IBPT)"))
+        .set_informacoes_responsavel_tecnico(responsavel_tecnico());
+}
+
+namespace {
+
+// The share of ICMS of the state of destination on a sale to a consumer there
+// who pays no ICMS: Rio de Janeiro charges 20% and 2% for its fund against
+// poverty; all of the difference goes to it.
+tributacao_icms_uf_destino partilha_rio_de_janeiro(char const* base, char const* interestadual, char const* fcp,
+                                                   char const* destino)
+{
+    return tributacao_icms_uf_destino()
+        .set_valor_bc(valor(base))
+        .set_valor_bc_fcp(valor(base))
+        .set_percentual_fundo_combate_pobreza(valor("2.00"))
+        .set_aliquota_interna(valor("20.00"))
+        .set_aliquota_interestadual(valor(interestadual))
+        .set_percentual_partilha(valor("100.00"))
+        .set_valor_icms_fundo_combate_pobreza(valor(fcp))
+        .set_valor_icms_uf_destino(valor(destino))
+        .set_valor_icms_uf_remetente(valor("0.00"));
+}
+
+grupo_tributacao_icms_00 icms_integral(origem_mercadoria origem, char const* base, char const* aliquota,
+                                       char const* icms)
+{
+    return grupo_tributacao_icms_00()
+        .set_origem_mercadoria(origem)
+        .set_cst(cst_icms::cst_00)
+        .set_modalidade_bc_icms(modalidade_bc_icms::valor_operacao)
+        .set_valor_bc_icms(valor(base))
+        .set_aliquota_icms(valor(aliquota))
+        .set_valor_icms(valor(icms));
+}
+
+produto dipirona()
+{
+    return produto()
+        .set_codigo_produto("DIP500INJ100")
+        .set_codigo_de_barras("7891058300128")
+        .set_descricao("DIPIRONA SODICA 500MG/ML SOL INJ CX 100 AMP 2ML")
+        .set_ncm(30049099)
+        .set_cfop(6108)
+        .set_unidade_comercial("CX")
+        .set_quantidade_comercial(valor("10"))
+        .set_valor_unitario_comercial(valor("185.00"))
+        .set_valor_total_bruto(valor("1850.00"))
+        .set_codigo_de_barras_tributavel("7891058300128")
+        .set_unidade_tributavel("CX")
+        .set_quantidade_tributavel(valor("10"))
+        .set_valor_unitario_tributavel(valor("185.00"))
+        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
+        .set_pedido_ordem_de_compra("4500012345")
+        .set_codigo_do_produto_ordem_de_compra(10)
+        .set_lista_informacoes_rastreabilidade({informacoes_rastreabilidade()
+                                                     .set_numero_lote("DP24051")
+                                                     .set_quantidade_de_produto_no_lote(valor("10"))
+                                                     .set_data_fabricacao(core::date(10, 3, 2024))
+                                                     .set_data_validade(core::date(9, 3, 2026))})
+        .set_medicamentos(std::vector<medicamento>{
+            medicamento().set_codigo_anvisa("1058300020015").set_preco_maximo_consumidor(valor("412.35"))})
+        .set_tributacao(icms_integral(origem_mercadoria::nacional, "1850.00", "12.00", "222.00"))
+        .set_tributacao_pis_cofins(pis_cofins_monofasico())
+        .set_tributacao_icms_uf_destino(partilha_rio_de_janeiro("1850.00", "12.00", "37.00", "148.00"));
+}
+
+produto oximetro_importado()
+{
+    declaracao_importacao const di =
+        declaracao_importacao()
+            .set_numero_documento_importacao("2408731562")
+            .set_data_registro(core::date(2, 4, 2024))
+            .set_local_desembaraco("PORTO DE SANTOS")
+            .set_uf_desembaraco("SP")
+            .set_data_desembaraco(core::date(5, 4, 2024))
+            .set_via_transporte(via_transporte::maritima)
+            .set_valor_afrmm(valor("125.40"))
+            .set_forma_intermedio_importacao(forma_intermedio_importacao::conta_propria)
+            .set_codigo_exportador("SZMED0042")
+            .set_adicoes(
+                {adicao().set_numero_adicao(1).set_numero_sequencial_da_adicao(1).set_codigo_fabricante_estrangeiro(
+                    "SZMED0042")});
+    return produto()
+        .set_codigo_produto("OXI-PM60")
+        .set_codigo_de_barras("6953187044029")
+        .set_descricao("OXIMETRO DE PULSO PORTATIL PM60")
+        .set_ncm(90181980)
+        .set_cfop(6108)
+        .set_unidade_comercial("UN")
+        .set_quantidade_comercial(valor("5"))
+        .set_valor_unitario_comercial(valor("249.00"))
+        .set_valor_total_bruto(valor("1245.00"))
+        .set_codigo_de_barras_tributavel("6953187044029")
+        .set_unidade_tributavel("UN")
+        .set_quantidade_tributavel(valor("5"))
+        .set_valor_unitario_tributavel(valor("249.00"))
+        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
+        .set_declaracao_importacao({di})
+        .set_pedido_ordem_de_compra("4500012345")
+        .set_codigo_do_produto_ordem_de_compra(20)
+        // Imported goods travel between states at 4%.
+        .set_tributacao(icms_integral(origem_mercadoria::estrangeira_importacao_direta, "1245.00", "4.00", "49.80"))
+        .set_tributacao_pis_cofins(
+            tributacao_pis_cofins()
+                .set_grupo_tributacao_pis(grupo_tributacao_pis_aliquota()
+                                              .set_cst_pis(cst_pis_cofins_aliquota::cst_01)
+                                              .set_valor_bc_pis(valor("1245.00"))
+                                              .set_percentual_aliquota_pis(valor("1.65"))
+                                              .set_valor_pis(valor("20.54")))
+                .set_grupo_tributacao_cofins(grupo_tributacao_cofins_aliquota()
+                                                 .set_cst_cofins(cst_pis_cofins_aliquota::cst_01)
+                                                 .set_valor_bc_cofins(valor("1245.00"))
+                                                 .set_percentual_aliquota_cofins(valor("7.60"))
+                                                 .set_valor_cofins(valor("94.62"))))
+        .set_tributacao_icms_uf_destino(partilha_rio_de_janeiro("1245.00", "4.00", "24.90", "199.20"));
+}
+
+// Diesel for the hospital's generators; its ICMS was charged at the refinery.
+produto diesel()
+{
+    return produto()
+        .set_codigo_produto("DSL-S10")
+        .set_codigo_de_barras("SEM GTIN")
+        .set_descricao("OLEO DIESEL B S10 ADITIVADO")
+        .set_ncm(27101921)
+        .set_cfop(6656)
+        .set_unidade_comercial("L")
+        .set_quantidade_comercial(valor("500"))
+        .set_valor_unitario_comercial(valor("6.189"))
+        .set_valor_total_bruto(valor("3094.50"))
+        .set_codigo_de_barras_tributavel("SEM GTIN")
+        .set_unidade_tributavel("L")
+        .set_quantidade_tributavel(valor("500"))
+        .set_valor_unitario_tributavel(valor("6.189"))
+        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
+        .set_pedido_ordem_de_compra("4500012345")
+        .set_codigo_do_produto_ordem_de_compra(30)
+        .set_combustiveis(combustiveis()
+                              .set_codigo_produto_anp(820101034)
+                              .set_descricao_produto_anp("OLEO DIESEL B S10 - COMUM")
+                              .set_uf_consumo("RJ"))
+        .set_tributacao(grupo_tributacao_icms_60().set_origem_mercadoria(origem_mercadoria::nacional).set_cst(
+            cst_icms::cst_60))
+        .set_tributacao_pis_cofins(pis_cofins_monofasico());
+}
+
+}  // namespace
+
+nota_fiscal nota_nfe_completa()
+{
+    emitente const distribuidora = emitente()
+                                       .set_cnpj("08931527000141")
+                                       .set_razao_social("Distribuidora Paulista de Produtos Hospitalares Ltda")
+                                       .set_nome_fantasia("DistriMed Campinas")
+                                       .set_endereco(endereco()
+                                                         .set_logradouro("Rua Barão de Jaguara")
+                                                         .set_numero_endereco("1481")
+                                                         .set_complemento("Sala 12")
+                                                         .set_bairro("Centro")
+                                                         .set_ibge_municipio(3509502)
+                                                         .set_nome_municipio("Campinas")
+                                                         .set_uf("SP")
+                                                         .set_cep(13015002)
+                                                         .set_ibge_pais(1058)
+                                                         .set_pais("Brasil"))
+                                       .set_telefone("1932345678")
+                                       .set_ie("244680170119")
+                                       .set_cnae(4644301)
+                                       .set_regime_fiscal(regime_tributario::regime_normal);
+
+    destinatario const hospital = destinatario()
+                                      .set_cnpj("33587164000116")
+                                      .set_razao_social("Hospital Santa Luzia de Copacabana S.A.")
+                                      .set_endereco(endereco()
+                                                        .set_logradouro("Rua Barata Ribeiro")
+                                                        .set_numero_endereco("370")
+                                                        .set_bairro("Copacabana")
+                                                        .set_ibge_municipio(3304557)
+                                                        .set_nome_municipio("Rio de Janeiro")
+                                                        .set_uf("RJ")
+                                                        .set_cep(22040002)
+                                                        .set_ibge_pais(1058)
+                                                        .set_pais("Brasil"))
+                                      .set_telefone("2125551234")
+                                      .set_indicador_de_ie(indicador_ie_destinatario::nao_contribuinte)
+                                      .set_email("compras@hsantaluzia.com.br");
+
+    local_entrega const almoxarifado = local_entrega().set_cnpj("33587164000205").set_endereco(
+        endereco()
+            .set_logradouro("Rodovia Washington Luiz")
+            .set_numero_endereco("3300")
+            .set_complemento("Galpão 4")
+            .set_bairro("Jardim Primavera")
+            .set_ibge_municipio(3301702)
+            .set_nome_municipio("Duque de Caxias")
+            .set_uf("RJ"));
+
+    total_nfe_icms const totais = total_nfe_icms()
+                                      .set_total_base_normal(valor("3095.00"))
+                                      .set_total_icms_normal(valor("271.80"))
+                                      .set_total_icms_fcp(valor("61.90"))
+                                      .set_total_icms_destino(valor("347.20"))
+                                      .set_total_icms_remetente(valor("0.00"))
+                                      .set_valor_total_dos_produtos_da_nota(valor("6189.50"))
+                                      .set_total_imposto_pis(valor("20.54"))
+                                      .set_total_imposto_confins(valor("94.62"))
+                                      .set_total_da_nota(valor("6189.50"));
+
+    informacoes_transporte const transporte =
+        informacoes_transporte()
+            .set_modalidade_frete(modalidade_frete::por_conta_remetente)
+            .set_transportador(transportador()
+                                   .set_documento(erp::cnpj(46291385000194))
+                                   .set_razao_social("Transportes Rodovia Sul Ltda")
+                                   .set_ie("618370427118")
+                                   .set_logradouro("Av. John Boyd Dunlop, 3900")
+                                   .set_municipio("Campinas")
+                                   .set_uf("SP"))
+            .set_veiculo(veiculo_transporte().set_placa("BRA2E19").set_uf("SP").set_rntc("045123987"))
+            .set_volumes({volume()
+                              .set_quantidade(15)
+                              .set_especie("CAIXA")
+                              .set_marca("DISTRIMED")
+                              .set_peso_liquido(valor("38.500"))
+                              .set_peso_bruto(valor("41.200")),
+                          volume()
+                              .set_quantidade(1)
+                              .set_especie("TANQUE IBC")
+                              .set_peso_liquido(valor("422.500"))
+                              .set_peso_bruto(valor("481.000"))});
+
+    return nota_fiscal()
+        .set_chave_44_digitos("35240508931527000141550010000007211304176251")
+        .set_codigo_nf(30417625)
+        .set_natureza_operacao("VENDA DE MERCADORIA ADQUIRIDA DE TERCEIROS")
+        .set_modelo_emissao("55")
+        .set_serie("1")
+        .set_numero(721)
+        .set_data_emissao(horario_brasilia(2024, 5, 14, 9, 15, 0))
+        .set_data_saida_entrada(horario_brasilia(2024, 5, 14, 14, 0, 0))
+        .set_tipo_operacao(tipo_operacao::saida)
+        .set_indicador_operacao(destino_operacao::interestadual)
+        .set_ibge_municipio_emissao(3509502)
+        .set_tipo_emissao(tipo_emissao::normal)
+        .set_indicador_ambiente(indicador_ambiente::homologacao)
+        .set_indicador_finalidade_emissao(finalidade_emissao::normal)
+        .set_operacao_consumidor_final(consumidor_final::sim)
+        .set_indicador_presenca(indicador_presenca::nao_presencial_outros)
+        .set_indicador_intermediador(indicador_intermediador::sem_intermediador)
+        .set_nfe_referenciadas({nfe_referenciada().set_chave_nfe("35240408931527000141550010000006981715302842")})
+        .set_nf_referenciadas({nf_referenciada()
+                                   .set_uf_emitente(35)
+                                   .set_ano_mes_emissao(1911)
+                                   .set_cnpj("62084519000152")
+                                   .set_modelo(1)
+                                   .set_serie("1")
+                                   .set_numero(15837)})
+        .set_emitente(distribuidora)
+        .set_destinatario(hospital)
+        .set_local_entrega(almoxarifado)
+        .set_autorizacoes_acesso_xml({autorizacao_acesso_xml().set_cpf("28461935764"),
+                                      autorizacao_acesso_xml().set_cnpj("46291385000194")})
+        .set_produtos({dipirona(), oximetro_importado(), diesel()})
+        .set_total_nfe(total_nfe().set_total_icms(totais))
+        .set_informacoes_transporte(transporte)
+        .set_cobranca(cobranca()
+                          .set_numero_fatura("721")
+                          .set_valor_original_fatura(valor("6189.50"))
+                          .set_valor_desconto(valor("0.00"))
+                          .set_valor_liquido(valor("6189.50"))
+                          .set_duplicatas({duplicata()
+                                               .set_numero_duplicata("001")
+                                               .set_data_vencimento(core::date(13, 6, 2024))
+                                               .set_valor_duplicata(valor("3094.75")),
+                                           duplicata()
+                                               .set_numero_duplicata("002")
+                                               .set_data_vencimento(core::date(13, 7, 2024))
+                                               .set_valor_duplicata(valor("3094.75"))}))
+        .set_informacoes_pagamento(informacoes_pagamento().set_detalhes_pagamento(
+            {detalhes_pagamento()
+                 .set_indicador_forma_pagamento(indicador_forma_pagamento::a_prazo)
+                 .set_meio_pagamento(meio_pagamento::boleto_bancario)
+                 .set_valor_pagamento(valor("6189.50"))}))
+        .set_informacoes_adicionais(informacoes_adicionais().set_informacoes_complementares(
+            "Pedido de compra 4500012345. Entregar no almoxarifado central, de segunda a sexta, das 8h às 16h."))
+        .set_informacoes_responsavel_tecnico(responsavel_tecnico());
+}
+
+}  // namespace velk::test

@@ -1,0 +1,124 @@
+#pragma once
+
+#include <velk/core/result/stack.hpp>
+#include <velk/erp/fiscal/nota_fiscal.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/escrever_layout_4_00.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/montar_layout_4_00.hpp>
+#include <velk/xml/document.hpp>
+#include <velk/xml/node.hpp>
+
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+namespace velk::test {
+
+// A part of a note changed in place: the model gives copies, so each helper
+// reads the part, changes it and puts it back.
+template <class Alterar>
+void no_emitente(erp::fiscal::nota_fiscal& nota, Alterar alterar)
+{
+    erp::fiscal::emitente parte = nota.get_emitente();
+    alterar(parte);
+    nota.set_emitente(parte);
+}
+
+template <class Alterar>
+void no_endereco_emitente(erp::fiscal::nota_fiscal& nota, Alterar alterar)
+{
+    no_emitente(nota, [&](erp::fiscal::emitente& emitente) {
+        erp::fiscal::endereco parte = emitente.get_endereco();
+        alterar(parte);
+        emitente.set_endereco(parte);
+    });
+}
+
+template <class Alterar>
+void no_destinatario(erp::fiscal::nota_fiscal& nota, Alterar alterar)
+{
+    erp::fiscal::destinatario parte = nota.get_destinatario().value();
+    alterar(parte);
+    nota.set_destinatario(parte);
+}
+
+template <class Alterar>
+void no_produto(erp::fiscal::nota_fiscal& nota, std::size_t indice, Alterar alterar)
+{
+    std::vector<erp::fiscal::produto> produtos = nota.get_produtos();
+    alterar(produtos.at(indice));
+    nota.set_produtos(produtos);
+}
+
+// The document of a note through both stages; the test fails if either fails.
+inline xml::document documento_de(erp::fiscal::nota_fiscal const& nota)
+{
+    core::result::stack stack;
+    auto const arvore = erp::tarn::nfe::layout_4_00::montar_layout_4_00(nota, stack);
+    EXPECT_FALSE(stack.has_failed()) << stack.to_string();
+    xml::document documento = erp::tarn::nfe::layout_4_00::escrever_layout_4_00(arvore, stack);
+    EXPECT_FALSE(stack.has_failed()) << stack.to_string();
+    return documento;
+}
+
+// The text of a group of the document as saved on its own, without the XML
+// declaration and without the NF-e namespace, which a copy declares for itself.
+inline std::string texto_de(xml::element const& elemento)
+{
+    core::result::stack stack;
+    xml::document avulso;
+    avulso.append_node(elemento, stack);
+    std::string texto = xml::document::save(avulso, stack).to_string();
+    EXPECT_FALSE(stack.has_failed()) << stack.to_string();
+    texto.erase(0, texto.find('\n') + 1);
+    std::string const declaracao = " xmlns=\"http://www.portalfiscal.inf.br/nfe\"";
+    if (auto const posicao = texto.find(declaracao); posicao != std::string::npos && posicao < texto.find('>')) {
+        texto.erase(posicao, declaracao.size());
+    }
+    return texto;
+}
+
+// The texts of the children of infNFe named `tag`, in order.
+inline std::vector<std::string> grupos(xml::document const& documento, std::string const& tag)
+{
+    std::vector<std::string> textos;
+    xml::element const* raiz = documento.get_root_element();
+    xml::element const* inf = raiz ? raiz->find_child("infNFe") : nullptr;
+    if (inf == nullptr) {
+        ADD_FAILURE() << "no NFe/infNFe";
+        return textos;
+    }
+    for (xml::node const& filho : inf->get_node_range()) {
+        if (xml::element const* elemento = filho.as_element(); elemento && elemento->get_name() == tag) {
+            textos.push_back(texto_de(*elemento));
+        }
+    }
+    return textos;
+}
+
+// The text of the one child of infNFe named `tag`, empty when there is none.
+inline std::string grupo(xml::document const& documento, std::string const& tag)
+{
+    std::vector<std::string> const textos = grupos(documento, tag);
+    EXPECT_LE(textos.size(), 1u) << tag;
+    return textos.empty() ? std::string() : textos.front();
+}
+
+// The first element named `tag` in a group's text, as written ("<NCM>00000000</NCM>", "<xCpl/>"); empty
+// when there is none. For leaves only.
+inline std::string elemento_em(std::string const& grupo_xml, std::string const& tag)
+{
+    auto const vazio = grupo_xml.find("<" + tag + "/>");
+    auto const inicio = grupo_xml.find("<" + tag + ">");
+    if (inicio == std::string::npos) {
+        return vazio == std::string::npos ? std::string() : "<" + tag + "/>";
+    }
+    if (vazio != std::string::npos && vazio < inicio) {
+        return "<" + tag + "/>";
+    }
+    std::string const fecha = "</" + tag + ">";
+    return grupo_xml.substr(inicio, grupo_xml.find(fecha, inicio) + fecha.size() - inicio);
+}
+
+}  // namespace velk::test

@@ -1,0 +1,81 @@
+#include <velk/erp/tarn/nfe/layout_4_00/escrever_valor.hpp>
+
+#include <velk/core/converter.hpp>
+#include <velk/core/result/report.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
+#include <velk/xml/text.hpp>
+
+#include <utility>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
+
+namespace {
+
+// The text of a value by its converter. None of these kinds has an empty text,
+// so an empty one means that the converter refused the value: its failure is
+// on the stack, and the tag goes on top of it.
+template <class Valor>
+bool texto_convertido(std::string const& tag, Valor const& valor, std::string& texto, core::result::stack& stack)
+{
+    texto = core::make_string(valor, stack);
+    if (texto.empty()) {
+        core::result::chain<sefaz_data::result_category, 10>(stack, tag);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace
+
+bool txt(xml::element& pai, std::string const& tag, std::string const& valor, core::result::stack&)
+{
+    xml::element elemento(tag);
+    if (!valor.empty()) {
+        elemento.append_node(xml::text(valor));
+    }
+    pai.append_node(std::move(elemento));
+    return true;
+}
+
+bool u(xml::element& pai, std::string const& tag, std::uint64_t valor, core::result::stack& stack,
+       unsigned int largura)
+{
+    std::string digitos;
+    if (!texto_convertido(tag, valor, digitos, stack)) {
+        return false;
+    }
+    if (digitos.size() < largura) {
+        digitos.insert(0, largura - digitos.size(), '0');
+    }
+    return txt(pai, tag, digitos, stack);
+}
+
+bool d(xml::element& pai, std::string const& tag, core::decimal const& valor, core::result::stack& stack,
+       unsigned int casas)
+{
+    return txt(pai, tag, valor.to_string(casas, '.'), stack);
+}
+
+bool dh(xml::element& pai, std::string const& tag, core::datetime const& valor, core::result::stack& stack)
+{
+    std::string texto;
+    return texto_convertido(tag, valor, texto, stack) && txt(pai, tag, texto, stack);
+}
+
+bool dt(xml::element& pai, std::string const& tag, core::date const& valor, core::result::stack& stack)
+{
+    std::string texto;
+    return texto_convertido(tag, valor, texto, stack) && txt(pai, tag, texto, stack);
+}
+
+bool cnpj(xml::element& pai, std::uint64_t valor, core::result::stack& stack)
+{
+    return u(pai, "CNPJ", valor, stack, 14);
+}
+
+bool cpf(xml::element& pai, std::uint64_t valor, core::result::stack& stack)
+{
+    return u(pai, "CPF", valor, stack, 11);
+}
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

@@ -1,0 +1,100 @@
+#pragma once
+
+// The writers of the groups of layout 4.00, used by escrever_layout_4_00. Each
+// appends to `pai` one element named `tag` with the record's members in the
+// order of the XML, and returns false at the first member that could not be
+// written; the element is then left out. They decide nothing: what the record
+// holds is written.
+
+#include <velk/core/optional.hpp>
+#include <velk/core/result/stack.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/layout_4_00.hpp>
+#include <velk/xml/element.hpp>
+
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
+
+bool escrever(xml::element& pai, std::string const& tag, grupo::ide const& ide, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::NFref const& nfref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::refNF const& ref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::refNFP const& ref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::refECF const& ref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::emit const& emit, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::enderEmit const& endereco, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::enderDest const& endereco, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::dest const& dest, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::retirada const& retirada, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::entrega const& entrega, core::result::stack& stack);
+// An entry of autXML: the element with the document inside.
+bool escrever(xml::element& pai, std::string const& tag, grupo::cpf_cnpj_ou_estrangeiro const& documento,
+              core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::det const& det, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::prod const& prod, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::DI const& di, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::adi const& adi, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::detExport const& detExport, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::exportInd const& exportInd, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::rastro const& rastro, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::veicProd const& veicProd, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::med const& med, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::arma const& arma, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::comb const& comb, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::CIDE const& cide, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::encerrante const& encerrante,
+              core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::impostoDevol const& impostoDevol,
+              core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::IPIDevol const& ipi, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::imposto const& imposto, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::total const& total, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::ICMSTot const& icms_tot, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::transp const& transp, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::cobr const& cobr, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::pag const& pag, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::detPag const& det_pag, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::infIntermed const& infIntermed,
+              core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::infAdic const& infAdic, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::exporta const& exporta, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::compra const& compra, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::cana const& cana, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::infRespTec const& infRespTec,
+              core::result::stack& stack);
+
+// The document of a party, written in its place among the group's tags.
+bool escrever_documento(xml::element& pai, grupo::cnpj_ou_cpf const& documento, core::result::stack& stack);
+bool escrever_documento(xml::element& pai, grupo::cpf_cnpj_ou_estrangeiro const& documento, core::result::stack& stack);
+
+// An optional group is written when it holds a value.
+template <class Registro>
+bool escrever(xml::element& pai, std::string const& tag, core::optional<Registro> const& registro,
+              core::result::stack& stack)
+{
+    return !registro || escrever(pai, tag, *registro, stack);
+}
+
+// A repeated group is written once per entry, in order.
+template <class Registro>
+bool escrever(xml::element& pai, std::string const& tag, std::vector<Registro> const& lista, core::result::stack& stack)
+{
+    for (Registro const& registro : lista) {
+        if (!escrever(pai, tag, registro, stack)) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Appends a group element to its parent once all of it was written.
+inline bool anexar(xml::element& pai, xml::element&& elemento, bool escrito)
+{
+    if (escrito) {
+        pai.append_node(std::move(elemento));
+    }
+    return escrito;
+}
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

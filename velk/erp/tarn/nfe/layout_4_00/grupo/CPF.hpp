@@ -1,0 +1,12 @@
+#pragma once
+
+#include <cstdint>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
+
+// A person's document as a number; written with 11 digits.
+struct CPF {
+    std::uint64_t valor = 0;
+};
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

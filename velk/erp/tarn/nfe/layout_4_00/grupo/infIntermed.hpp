@@ -1,0 +1,11 @@
+#pragma once
+
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
+
+// The marketplace of the sale.
+// Its tags come with the closing groups; until then the record is empty and writes nothing.
+struct infIntermed {
+};
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

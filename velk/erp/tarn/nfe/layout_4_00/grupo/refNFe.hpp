@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
+
+// A referenced NF-e or NFC-e: its 44-digit key.
+struct refNFe {
+    std::string valor;
+};
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

@@ -1,0 +1,27 @@
+#pragma once
+
+// The sub-groups of prod: import, export, batches and the group of a special
+// kind of goods.
+
+#include <velk/core/optional.hpp>
+#include <velk/core/result/stack.hpp>
+#include <velk/erp/fiscal/produto.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/DI.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/detExport.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/produto_especifico.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/rastro.hpp>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
+
+bool montar_DI(fiscal::declaracao_importacao const& declaracao, grupo::DI& di, core::result::stack& stack);
+
+// exportInd is set for every entry, also when all its members are absent.
+grupo::detExport montar_detExport(fiscal::grupo_exportacao const& exportacao);
+
+grupo::rastro montar_rastro(fiscal::informacoes_rastreabilidade const& lote);
+
+// Medicines, then firearms, then fuel: a later kind replaces an earlier one.
+bool montar_especifico(fiscal::produto const& produto, core::optional<grupo::produto_especifico>& especifico,
+                       core::result::stack& stack);
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00
