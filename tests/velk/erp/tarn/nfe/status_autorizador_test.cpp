@@ -142,14 +142,13 @@ TEST(status_autorizador_resposta, optional_values_and_what_failures_name)
     EXPECT_EQ(none.get_xml().get_name(), "");
 }
 
-// What executar refuses before any byte leaves.
-TEST(status_autorizador_servico, failures_before_sending)
+// What executar refuses before it builds a message (the refusals before
+// sending that need a server are tried against the simulator).
+TEST(status_autorizador_servico, failures_before_the_message)
 {
     nfe::web_server_info complete;
     complete.set_endpoint_url("https://127.0.0.1:9/ws");
     complete.set_action_url("http://www.portalfiscal.inf.br/nfe/wsdl/NFeStatusServico4/nfeStatusServicoNF");
-    nfe::web_server_info without_action = complete;
-    without_action.set_action_url("");
 
     requisicao::status_autorizador good;
     good.set_versao(nfe::versao::versao_4_00);
@@ -158,30 +157,24 @@ TEST(status_autorizador_servico, failures_before_sending)
     requisicao::status_autorizador bad_estado = good;
     bad_estado.set_estado(static_cast<velk::erp::estado>(99));
 
-    nfe::servico::status_autorizador with_timeout;
-    with_timeout.set_timeout(std::chrono::milliseconds(1000));
-    nfe::servico::status_autorizador const without_timeout;
+    nfe::servico::status_autorizador service;
+    service.set_timeout(std::chrono::milliseconds(1000));
 
     struct row {
         char const* case_name;
-        nfe::servico::status_autorizador const& service;
         requisicao::status_autorizador const& request;
         nfe::web_server_info const& server;
         int code;
         std::size_t depth;
         arguments expected;
     } const rows[] = {
-        {"version out of the enumeration", with_timeout, bad_versao, complete, 7, 2, {{"value", "7"}}},
-        {"state out of the enumeration", with_timeout, bad_estado, complete, 12, 2, {{"value", "99"}}},
-        {"default server description", with_timeout, good, nfe::web_server_info(), 5, 1,
-         {{"Endpoint", ""}, {"Action", ""}}},
-        {"empty action", with_timeout, good, without_action, 5, 1,
-         {{"Endpoint", "https://127.0.0.1:9/ws"}, {"Action", ""}}},
-        {"no time-out set", without_timeout, good, complete, 3, 1, {}},
+        {"version out of the enumeration", bad_versao, complete, 7, 2, {{"value", "7"}}},
+        {"state out of the enumeration", bad_estado, complete, 12, 2, {{"value", "99"}}},
+        {"default server description", good, nfe::web_server_info(), 5, 1, {{"Endpoint", ""}, {"Action", ""}}},
     };
     for (row const& each : rows) {
         stack result;
-        auto const status = each.service.executar(each.request, each.server, result);
+        auto const status = service.executar(each.request, each.server, result);
         ASSERT_EQ(result.size(), each.depth) << each.case_name << result.to_string();
         EXPECT_EQ(result.get_category(), nfe::servico_result_category::instance()) << each.case_name;
         EXPECT_EQ(result.get_value(), each.code) << each.case_name;

@@ -317,6 +317,33 @@ TEST(status_autorizador_exchange, beneath_the_codes_11_and_2)
     EXPECT_EQ(status.get_xml().get_name(), "retConsSitNFe") << "the tree that came is kept";
 }
 
+TEST(status_autorizador_exchange, nothing_is_sent_without_action_or_time_out)
+{
+    sefaz_simulator const simulator;
+    nfe::web_server_info without_action = server_at(simulator.url());
+    without_action.set_action_url("");
+    nfe::servico::status_autorizador without_timeout = ready_service();
+    without_timeout.set_timeout(std::chrono::milliseconds(0));
+    struct row {
+        char const* case_name;
+        nfe::servico::status_autorizador service;
+        nfe::web_server_info server;
+        int code;
+        texts arguments;
+    } const rows[] = {
+        {"empty action", ready_service(), without_action, 5, {{"Endpoint", simulator.url()}, {"Action", ""}}},
+        {"no time-out", without_timeout, server_at(simulator.url()), 3, {}},
+    };
+    for (row const& each : rows) {
+        SCOPED_TRACE(each.case_name);
+        stack result;
+        each.service.executar(status_request(nfe::versao::versao_4_00), each.server, result);
+        expect_report({each.case_name, {}, {}, nfe::servico_result_category::instance(), each.code, each.arguments},
+                      result);
+    }
+    EXPECT_TRUE(simulator.recorded_requests().empty());
+}
+
 TEST(status_autorizador_exchange, refused_connection)
 {
     stack result;
