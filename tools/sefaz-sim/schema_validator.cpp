@@ -33,6 +33,8 @@ struct schema_validator::parsed_schema {
 
 schema_validator::schema_validator(std::filesystem::path folder) : folder_(std::move(folder))
 {
+    // Before the server's threads parse anything.
+    xmlInitParser();
     // Includes and imports are read by the schema parser itself.
     xmlSetExternalEntityLoader(xmlNoNetExternalEntityLoader);
 }
