@@ -56,6 +56,11 @@ struct stranger_pki {
     byte_array client_pkcs12 = authority.issue_client("EMPRESA ESTRANHA:11111111000191").to_pkcs12("x");
 
     stranger_pki() { velk::test::write_text(ca_file, authority.certificate_pem()); }
+    ~stranger_pki()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(ca_file.parent_path(), ignored);
+    }
 
     static stranger_pki const& instance()
     {
