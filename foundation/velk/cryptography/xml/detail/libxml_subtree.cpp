@@ -3,14 +3,14 @@
 #include <velk/core/result/report.hpp>
 #include <velk/cryptography/cryptography_result_category.hpp>
 #include <velk/cryptography/xml/detail/namespace_scope.hpp>
+#include <velk/cryptography/xml/detail/node_arena.hpp>
 #include <velk/xml/node.hpp>
 
 #include <libxml/parser.h>
 
 #include <cstring>
+#include <memory>
 #include <mutex>
-#include <new>
-#include <vector>
 #include <string_view>
 
 namespace velk::cryptography {
@@ -20,60 +20,8 @@ namespace detail {
 
 namespace {
 
-// Memory for the nodes, handed out in order and given back all at once. The
-// blocks stay with the thread between documents: returning them to the system
-// and asking again costs more than building the tree.
-class node_arena {
-public:
-    void* allocate(std::size_t size, std::size_t alignment)
-    {
-        if (size > large_size) {
-            return large_.emplace_back(std::make_unique<std::byte[]>(size)).get();
-        }
-        std::size_t start = (used_ + alignment - 1) & ~(alignment - 1);
-        if (current_ >= blocks_.size() || start + size > block_size) {
-            next_block();
-            start = 0;
-        }
-        used_ = start + size;
-        return blocks_[current_].get() + start;
-    }
-
-    // Forgets what was handed out; keeps a few blocks for the next document.
-    void reset()
-    {
-        if (blocks_.size() > kept_blocks) {
-            blocks_.resize(kept_blocks);
-        }
-        large_.clear();
-        current_ = 0;
-        used_ = 0;
-    }
-
-private:
-    static constexpr std::size_t block_size = 64 * 1024;
-    static constexpr std::size_t kept_blocks = 4;
-    // Long texts (a namespace, a CDATA section with line ends to normalise)
-    // get memory of their own.
-    static constexpr std::size_t large_size = block_size / 4;
-
-    void next_block()
-    {
-        if (!blocks_.empty() && used_ != 0) {
-            ++current_;
-        }
-        if (current_ >= blocks_.size()) {
-            blocks_.push_back(std::make_unique<std::byte[]>(block_size));
-        }
-        used_ = 0;
-    }
-
-    std::vector<std::unique_ptr<std::byte[]>> blocks_;
-    std::vector<std::unique_ptr<std::byte[]>> large_;
-    std::size_t current_ = 0;
-    std::size_t used_ = 0;
-};
-
+// The blocks stay with the thread between documents: returning them to the
+// system and asking again costs more than building the tree.
 thread_local std::unique_ptr<node_arena> spare_arena;
 
 }  // namespace
