@@ -21,10 +21,12 @@ using found_elements = std::unordered_map<std::string, xml::element const*>;
 // The paths read below, relative to NFe. Failures name them with "NFe/" in
 // front.
 std::vector<std::string> const wanted_paths = {
-    "infNFe",           "infNFe/ide/tpAmb", "infNFe/ide/mod",          "infNFe/ide/cUF",
-    "infNFe/ide/dhEmi", "infNFe/ide/serie", "infNFe/ide/cNF",          "infNFe/ide/nNF",
-    "infNFe/dest/email", "infNFe/dest/CPF", "infNFe/dest/CNPJ",        "infNFe/dest/idEstrangeiro",
-    "infNFe/total/ICMSTot/vNF", "infNFe/total/ICMSTot/vICMS", "infNFeSupl/qrCode", "infNFeSupl/urlChave",
+    "infNFe",
+    "infNFe/ide/tpAmb", "infNFe/ide/mod", "infNFe/ide/cUF", "infNFe/ide/dhEmi",
+    "infNFe/ide/serie", "infNFe/ide/cNF", "infNFe/ide/nNF",
+    "infNFe/dest/email", "infNFe/dest/CPF", "infNFe/dest/CNPJ", "infNFe/dest/idEstrangeiro",
+    "infNFe/total/ICMSTot/vNF", "infNFe/total/ICMSTot/vICMS",
+    "infNFeSupl/qrCode", "infNFeSupl/urlChave",
 };
 
 // The destination is identified by the first of these that is present.
