@@ -235,7 +235,7 @@ xmlNode* builder::new_element(velk::xml::element const& value)
 // Call with the element's declarations made.
 void builder::name_and_attributes(velk::xml::element const& value, xmlNode* node)
 {
-    std::string_view const prefix = prefix_of(value.get_qualified_name());
+    std::string_view const prefix = element_prefix(value);
     node->ns = resolve(prefix, node);
     if (node->ns == nullptr && !prefix.empty()) {
         // A prefix nothing declares: the name as written.

@@ -17,6 +17,14 @@ std::string_view prefix_of(std::string const& qualified_name)
 
 }  // namespace
 
+std::string_view element_prefix(velk::xml::element const& value)
+{
+    std::string const& qualified = value.get_qualified_name();
+    std::size_t const local_size = value.get_name().size();
+    return local_size == qualified.size() ? std::string_view()
+                                          : std::string_view(qualified).substr(0, qualified.size() - local_size - 1);
+}
+
 void namespace_scope::enter(velk::xml::element const& value)
 {
     std::size_t const mark = entries_.size();
@@ -25,7 +33,7 @@ void namespace_scope::enter(velk::xml::element const& value)
         std::string_view const uri = declaration.get_uri();
         entries_.push_back({prefix, uri});
     }
-    declare_if_needed(mark, prefix_of(value.get_qualified_name()), value.get_namespace_uri());
+    declare_if_needed(mark, element_prefix(value), value.get_namespace_uri());
     for (velk::xml::attribute const& property : value.get_attributes()) {
         // An unprefixed attribute is in no namespace, whatever the default.
         std::string_view const prefix = prefix_of(property.get_name());

@@ -53,6 +53,10 @@ private:
     std::vector<entry> entries_;
 };
 
+// The prefix of an element's name ("" when none), from the lengths of its
+// qualified and local names.
+std::string_view element_prefix(velk::xml::element const& value);
+
 }  // namespace detail
 }  // namespace xml
 }  // namespace v3
