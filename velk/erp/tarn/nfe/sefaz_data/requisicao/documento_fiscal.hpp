@@ -5,6 +5,7 @@
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/erp/estado.hpp>
+#include <velk/erp/fiscal/nota_fiscal.hpp>
 #include <velk/erp/tarn/ambiente.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
@@ -45,6 +46,14 @@ public:
     static documento_fiscal from_xml(xml::element const& elemento, core::result::stack& stack);
     // The same for the root of a document; a document without root is code 5.
     static documento_fiscal from_xml(xml::document const& documento, core::result::stack& stack);
+
+    // Generates the document of a note: the builder of the layout checks and
+    // maps the model into a tree, the writer makes the XML, and from_xml reads
+    // it back, so a generated document passes the same checks as one read from
+    // disk. Layout 4.00 only: any other version is code 6. A builder failure
+    // (processar_nota_result_category) leaves its report and a default object.
+    static documento_fiscal from_nota_fiscal(fiscal::nota_fiscal const& nota, versao versao_layout,
+                                             core::result::stack& stack);
 
     // Signs the tree in place: drops the first Signature child of NFe, and
     // appends a new enveloped one as the last child, referring to "#NFe" and
