@@ -1,0 +1,366 @@
+#include <velk/erp/tarn/nfe/qrcode/adicionar_url_qrcode.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_100.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_200.hpp>
+#include <velk/erp/tarn/nfe/qrcode/obter_url_qrcode.hpp>
+#include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
+
+#include <support/files.hpp>
+#include <support/nfce_texto.hpp>
+#include <support/qrcode_esperado.hpp>
+#include <velk/core/converter_result_category.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
+#include <velk/xml/node.hpp>
+
+#include <gtest/gtest.h>
+
+#include <openssl/crypto.h>
+
+#include <cstdlib>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace nfe = velk::erp::tarn::nfe;
+using nfe::informacoes_adicionais;
+using nfe::processo_gerar_qrcode_result_category;
+using nfe::versao_qrcode;
+using nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::core::result::stack;
+using velk::test::nfce_campos;
+using dest = std::pair<std::string, std::string>;
+using arguments = std::vector<std::pair<std::string, std::string>>;
+
+velk::xml::document tree_of(std::string const& text)
+{
+    stack s;
+    velk::xml::document document;
+    EXPECT_TRUE(document.load(velk::core::byte_array(text), s)) << s.to_string();
+    return document;
+}
+
+documento_fiscal fiscal_of(std::string const& text)
+{
+    stack s;
+    documento_fiscal document = documento_fiscal::from_xml(tree_of(text), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return document;
+}
+
+nfce_campos campos(std::string cuf, int tp_amb, bool offline, std::optional<dest> destinatario,
+                   std::string dh_emi = "2024-06-05T18:42:37-03:00", std::string vnf = "37.80",
+                   std::string vicms = "0.00")
+{
+    nfce_campos c;
+    c.cuf = std::move(cuf);
+    c.tp_amb = tp_amb;
+    c.contingencia_offline = offline;
+    c.destinatario = std::move(destinatario);
+    c.dh_emi = std::move(dh_emi);
+    c.vnf = std::move(vnf);
+    c.vicms = std::move(vicms);
+    return c;
+}
+
+struct corpus_case {
+    char const* name;
+    nfce_campos fields;
+    char const* token;          // as the taxpayer holds it
+    char const* token_200;      // as version 2.00 writes it
+    char const* csc;
+    char const* page;
+};
+
+std::vector<corpus_case> const corpus = {
+    {"online, homologation, no consumer, token with zeros", campos("35", 2, false, std::nullopt), "000001", "1",
+     "8DC7D1F3A0B94E6C9F2A41D07E5B3C18A6F0", "https://www.homologacao.nfce.fazenda.sp.gov.br/qrcode?"},
+    {"online, homologation, CPF", campos("35", 2, false, dest{"CPF", "12345678909"}), "123456", "123456",
+     "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C", "http://consulta.teste/qrcode?"},
+    {"online, production, CNPJ, one zero", campos("41", 1, false, dest{"CNPJ", "11222333000181"}), "012345", "12345",
+     "F00DFACE1234567890ABCDEF1234567890AB", "http://www.fazenda.pr.gov.br/nfce/qrcode?"},
+    {"offline, homologation, no consumer, token of zeros", campos("41", 2, true, std::nullopt), "000000", "000000",
+     "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
+    {"offline, production, foreigner, day 09", campos("43", 1, true, dest{"idEstrangeiro", "AB1234567"},
+                                                       "2024-11-09T07:05:00-03:00", "1234.56", "12.34"),
+     "000123", "123", "ZYXWVUTSRQPONMLKJIHGFEDCBA9876543210", "https://www.sefaz.rs.gov.br/NFCE/NFCE-COM.aspx?"},
+    {"offline, homologation, CPF, last day, Noronha", campos("26", 2, true, dest{"CPF", "98765432100"},
+                                                              "2024-12-31T23:59:59-02:00", "0.50", "0.09"),
+     "900000", "900000", "csc-em-minusculas-0123456789abcdefghi", "http://app.sefaz.es.gov.br/ConsultaNFCe/"},
+    {"online, production, CPF, token of one digit", campos("35", 1, false, dest{"CPF", "52998224725"}), "000009",
+     "9", "1234", "x?"},
+};
+
+TEST(obter_url_qrcode, corpus_gives_the_published_formula_in_both_versions)
+{
+    for (corpus_case const& current : corpus) {
+        SCOPED_TRACE(current.name);
+        velk::test::nfce_teste const nfce = velk::test::nfce_texto(current.fields);
+        std::string const digest = fiscal_of(nfce.texto).get_digest_value();
+        ASSERT_EQ(digest.size(), 28U);
+        velk::test::qrcode_entrada const entrada = velk::test::entrada_qrcode(current.fields, nfce, digest);
+
+        stack s;
+        std::string const url_100 = nfe::obter_url_qrcode(
+            informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, current.page), tree_of(nfce.texto),
+            current.token, current.csc, s);
+        ASSERT_FALSE(s.has_failed()) << s.to_string();
+        EXPECT_EQ(url_100, current.page + velk::test::qrcode_esperado_100(entrada, current.token, current.csc));
+
+        std::string const url_200 = nfe::obter_url_qrcode(
+            informacoes_adicionais(versao_qrcode::versao_200, std::string("ignored"), current.page),
+            tree_of(nfce.texto), current.token, current.csc, s);
+        ASSERT_FALSE(s.has_failed()) << s.to_string();
+        EXPECT_EQ(url_200, current.page + velk::test::qrcode_esperado_200(entrada, current.token_200, current.csc));
+
+        // Neither form names the consumer in version 2.00, nor the digest online.
+        EXPECT_EQ(url_200.find("cDest"), std::string::npos);
+        EXPECT_EQ(url_100.find("&cDest=") != std::string::npos, current.fields.destinatario.has_value());
+        EXPECT_EQ(url_200.find(velk::test::hex_minusculo(digest)) != std::string::npos,
+                  current.fields.contingencia_offline);
+    }
+}
+
+TEST(obter_url_qrcode, a_qrcode_in_the_document_wins_over_every_argument)
+{
+    std::string text = velk::test::nfce_texto(nfce_campos{}).texto;
+    text.replace(text.find("</NFe>"), 6,
+                 "<infNFeSupl><qrCode><![CDATA[http://antigo?chNFe=1&a=b]]></qrCode></infNFeSupl></NFe>");
+    for (versao_qrcode const version : {versao_qrcode::versao_100, versao_qrcode::versao_200,
+                                        static_cast<versao_qrcode>(9)}) {
+        stack s;
+        EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(version, std::nullopt, "http://novo?"), tree_of(text),
+                                        "12", "", s),
+                  "http://antigo?chNFe=1&a=b");
+        EXPECT_FALSE(s.has_failed()) << s.to_string();
+    }
+}
+
+struct failure_case {
+    char const* name;
+    versao_qrcode version;
+    bool offline;
+    char const* token;
+    char const* csc;
+    int code;
+    arguments expected;
+};
+
+// The checks run in the order the string is built: the token before the CSC.
+TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
+{
+    using enum versao_qrcode;
+    char const* const csc = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
+    failure_case const cases[] = {
+        {"1.00, 5 characters", versao_100, false, "12345", csc, 3, {{"value", "12345"}}},
+        {"1.00, 7 characters", versao_100, true, "1234567", csc, 3, {{"value", "1234567"}}},
+        {"1.00, 5 zeros are not stripped", versao_100, false, "00000", csc, 3, {{"value", "00000"}}},
+        {"1.00, empty token", versao_100, false, "", csc, 3, {{"value", ""}}},
+        {"2.00, 7 characters", versao_200, false, "1234567", csc, 3, {{"value", "1234567"}}},
+        {"2.00, empty token", versao_200, true, "", csc, 3, {{"value", ""}}},
+        {"2.00, 7 zeros stay 7", versao_200, false, "0000000", csc, 3, {{"value", "0000000"}}},
+        {"2.00, 7 digits behind zeros", versao_200, false, "0001234567", csc, 3, {{"value", "1234567"}}},
+        {"1.00, empty CSC", versao_100, false, "000001", "", 2, {{"value", ""}}},
+        {"2.00, empty CSC", versao_200, true, "000001", "", 2, {{"value", ""}}},
+        {"1.00, bad token and empty CSC", versao_100, false, "1", "", 3, {{"value", "1"}}},
+        {"2.00, bad token and empty CSC", versao_200, false, "1234567", "", 3, {{"value", "1234567"}}},
+        {"unknown version", static_cast<versao_qrcode>(2), false, "000001", csc, 4, {{"value", "2"}}},
+        {"negative version", static_cast<versao_qrcode>(-1), false, "000001", csc, 4, {{"value", "-1"}}},
+    };
+    for (failure_case const& current : cases) {
+        SCOPED_TRACE(current.name);
+        nfce_campos fields;
+        fields.contingencia_offline = current.offline;
+        stack s;
+        std::string const url =
+            nfe::obter_url_qrcode(informacoes_adicionais(current.version, std::nullopt, "http://pagina?"),
+                                  tree_of(velk::test::nfce_texto(fields).texto), current.token, current.csc, s);
+        ASSERT_EQ(s.size(), 1U) << s.to_string();
+        EXPECT_TRUE(s.get_category() == processo_gerar_qrcode_result_category::instance());
+        EXPECT_EQ(s.get_value(), current.code);
+        EXPECT_EQ(s.top().get_arguments(), current.expected);
+        // The page alone after a generator's failure; nothing for a version
+        // that has no generator.
+        EXPECT_EQ(url, current.code == 4 ? "" : "http://pagina?");
+    }
+
+    // 5 characters are short for 1.00 but good for 2.00.
+    stack s;
+    std::string const url = nfe::obter_url_qrcode(informacoes_adicionais(versao_200, std::nullopt, ""),
+                                                  tree_of(velk::test::nfce_texto(nfce_campos{}).texto), "12345", csc,
+                                                  s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_NE(url.find("|12345|"), std::string::npos) << url;
+}
+
+TEST(obter_url_qrcode, a_document_that_does_not_read_gives_nothing)
+{
+    stack s;
+    EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(), velk::xml::document(), "000001", "csc", s), "");
+    EXPECT_TRUE(s.get_category() == nfe::sefaz_data::result_category::instance());
+    EXPECT_EQ(s.get_value(), 5);
+
+    std::string text = velk::test::nfce_texto(nfce_campos{}).texto;
+    text.replace(text.find("<tpAmb>"), 15, "");
+    EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(), tree_of(text), "000001", "csc", s), "");
+    EXPECT_EQ(s.get_value(), 1);
+    EXPECT_EQ(*s.top().find_argument("element-name"), "NFe/infNFe/ide/tpAmb");
+}
+
+// The generators on their own, with a digest that is not what the document
+// holds: its length is looked at only where the string carries it.
+TEST(qrcode_generators, refuse_a_digest_of_the_wrong_length_only_where_they_write_it)
+{
+    char const* const csc = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
+    nfce_campos online;
+    nfce_campos offline;
+    offline.contingencia_offline = true;
+    documento_fiscal const online_document = fiscal_of(velk::test::nfce_texto(online).texto);
+    documento_fiscal const offline_document = fiscal_of(velk::test::nfce_texto(offline).texto);
+
+    struct {
+        char const* name;
+        documento_fiscal const& document;
+        bool version_200;
+        std::string digest;
+        bool refused;
+    } const cases[] = {
+        {"1.00 online, short digest", online_document, false, "abc", true},
+        {"1.00 online, 29 characters", online_document, false, std::string(29, 'A'), true},
+        {"1.00 offline, empty digest", offline_document, false, "", true},
+        {"2.00 offline, short digest", offline_document, true, "abc", true},
+        {"2.00 offline, 27 characters", offline_document, true, std::string(27, 'A'), true},
+        {"2.00 online, short digest", online_document, true, "abc", false},
+        {"2.00 online, empty digest", online_document, true, "", false},
+        {"1.00, 28 characters of any kind", online_document, false, std::string(28, '#'), false},
+    };
+    for (auto const& current : cases) {
+        SCOPED_TRACE(current.name);
+        stack s;
+        s.push_item(velk::core::converter_result_category::instance(), 1);  // a fresh report drops it
+        std::string const qrcode =
+            current.version_200 ? nfe::detail::gerar_qrcode_versao_200(current.document, current.digest, "1", csc, s)
+                                : nfe::detail::gerar_qrcode_versao_100(current.document, current.digest, "000001",
+                                                                       csc, s);
+        if (!current.refused) {
+            EXPECT_EQ(s.size(), 1U) << "only the item left over";
+            EXPECT_FALSE(qrcode.empty());
+            continue;
+        }
+        EXPECT_EQ(qrcode, "");
+        ASSERT_EQ(s.size(), 1U) << s.to_string();
+        EXPECT_TRUE(s.get_category() == processo_gerar_qrcode_result_category::instance());
+        EXPECT_EQ(s.get_value(), 7);
+        EXPECT_EQ(s.top().get_arguments(),
+                  (arguments{{"digest-value", velk::test::hex_minusculo(current.digest)},
+                             {"description", "O tamanho do DigestValue deve ser igual a 56"}}));
+    }
+}
+
+TEST(qrcode_generators, the_emission_type_is_that_of_the_key_not_of_ide)
+{
+    // ide says tpEmis 9, the key says 1: the online form.
+    nfce_campos fields;
+    velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
+    std::string text = nfce.texto;
+    text.replace(text.find("<tpEmis>1</tpEmis>"), 18, "<tpEmis>9</tpEmis>");
+    stack s;
+    std::string const qrcode = nfe::detail::gerar_qrcode_versao_200(fiscal_of(text), "", "7", "segredo", s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_EQ(qrcode, "p=" + nfce.chave + "|2|2|7|" + velk::test::sha1_maiusculo(nfce.chave + "|2|2|7segredo"));
+}
+
+// An OpenSSL that cannot take SHA-1 leaves the hash empty: code 6 with size 0.
+// The child process reads a configuration that activates no digest at all.
+TEST(qrcode_generators, a_hash_that_cannot_be_taken_is_code_6)
+{
+    OPENSSL_init_crypto(OPENSSL_INIT_LOAD_CONFIG, nullptr);  // this process keeps its own configuration
+    std::filesystem::path const folder = velk::test::scratch_dir("qrcode_sem_sha1");
+    velk::test::write_text(folder / "openssl.cnf", "openssl_conf = openssl_init\n"
+                                                   "[openssl_init]\nproviders = provider_sect\n"
+                                                   "[provider_sect]\nnull = null_sect\n"
+                                                   "[null_sect]\nactivate = 1\n");
+    std::string const text = velk::test::nfce_texto(nfce_campos{}).texto;
+    char const* const former = std::getenv("OPENSSL_CONF");
+    std::string const saved = former == nullptr ? "" : former;
+    setenv("OPENSSL_CONF", (folder / "openssl.cnf").c_str(), 1);
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    auto const generate = [&text](bool version_200) {
+        documento_fiscal const document = fiscal_of(text);
+        std::string const digest(28, 'A');
+        stack s;
+        std::string const qrcode =
+            version_200 ? nfe::detail::gerar_qrcode_versao_200(document, digest, "1", "csc", s)
+                        : nfe::detail::gerar_qrcode_versao_100(document, digest, "000001", "csc", s);
+        std::fprintf(stderr, "%s", s.to_string().c_str());
+        std::exit(qrcode.empty() && s.size() == 1 && s.get_value() == 6 ? 0 : 1);
+    };
+    EXPECT_EXIT(generate(false), testing::ExitedWithCode(0),
+                "tarn-nfe-processo-gerar-qrcode 6: A hash gerada para o QrCode está inválida \\{hash-value=, "
+                "hash-size=0\\}");
+    EXPECT_EXIT(generate(true), testing::ExitedWithCode(0), "hash-size=0");
+    if (former == nullptr) {
+        unsetenv("OPENSSL_CONF");
+    } else {
+        setenv("OPENSSL_CONF", saved.c_str(), 1);
+    }
+}
+
+TEST(adicionar_url_qrcode, puts_infnfesupl_ahead_of_infnfe)
+{
+    nfce_campos fields;
+    velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
+    velk::xml::document document = tree_of(nfce.texto);
+    stack s;
+    informacoes_adicionais const informacoes(versao_qrcode::versao_100, std::string("http://chave"), "http://p?");
+    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "segredo", s)) << s.to_string();
+
+    velk::xml::element const& root = *document.get_root_element();
+    std::vector<std::string> names;
+    for (velk::xml::node const& child : root.get_node_range()) {
+        names.push_back(child.as_element() != nullptr ? child.as_element()->get_name() : "(other)");
+    }
+    EXPECT_EQ(names, (std::vector<std::string>{"infNFeSupl", "infNFe"}));
+    velk::xml::element const& supplement = *root.find_child("infNFeSupl");
+    ASSERT_EQ(supplement.get_node_range().begin()->as_element()->get_name(), "qrCode");
+    velk::xml::element const& qrcode = *supplement.find_child("qrCode");
+    EXPECT_EQ(std::distance(supplement.get_node_range().begin(), supplement.get_node_range().end()), 1)
+        << "no urlChave here";
+    velk::xml::node const& contents = *qrcode.get_node_range().begin();
+    ASSERT_NE(contents.as_cdata_section(), nullptr);
+    stack fresh;
+    std::string const digest = fiscal_of(nfce.texto).get_digest_value();
+    EXPECT_EQ(contents.as_cdata_section()->get_contents(),
+              "http://p?" + velk::test::qrcode_esperado_100(velk::test::entrada_qrcode(fields, nfce, digest),
+                                                            "000001", "segredo"));
+    std::string const saved = velk::xml::document::save(document, fresh).to_string();
+    EXPECT_NE(saved.find("<qrCode><![CDATA[http://p?chNFe="), std::string::npos) << saved;
+}
+
+TEST(adicionar_url_qrcode, accepts_what_it_cannot_place_and_refuses_what_fails)
+{
+    stack s;
+    // Without a root the reading fails first.
+    velk::xml::document without_root;
+    EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes_adicionais(), without_root, "000001", "c", s));
+    EXPECT_EQ(s.get_value(), 5);
+
+    // A generator failure: false, the failure on the stack, the tree unchanged.
+    std::string const text = velk::test::nfce_texto(nfce_campos{}).texto;
+    velk::xml::document document = tree_of(text);
+    s.reset();
+    EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes_adicionais(), document, "000001", "", s));
+    EXPECT_EQ(s.get_value(), 2);
+    EXPECT_EQ(document.get_root_element()->find_child("infNFeSupl"), nullptr);
+
+    // A supplement already there is not looked for: a second one comes ahead.
+    s.reset();
+    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes_adicionais(), document, "000001", "c", s)) << s.to_string();
+    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes_adicionais(), document, "000001", "other", s)) << s.to_string();
+    int supplements = 0;
+    for (velk::xml::node const& child : document.get_root_element()->get_node_range()) {
+        supplements += child.as_element() != nullptr && child.as_element()->get_name() == "infNFeSupl" ? 1 : 0;
+    }
+    EXPECT_EQ(supplements, 2);
+}
+
+}  // namespace

@@ -1,0 +1,72 @@
+#include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_200.hpp>
+
+#include <velk/core/fatal.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/partes_qrcode.hpp>
+
+namespace velk::erp::inline v4::tarn::nfe::detail {
+
+namespace {
+
+constexpr char versao_url[] = "2.00";
+constexpr std::size_t id_token_max_length = 6;
+// Where the day of the month stands in the text of dhEmi (AAAA-MM-DD...).
+constexpr std::size_t posicao_dia = 8;
+
+}  // namespace
+
+std::string sem_zeros_a_esquerda(std::string const& id_token)
+{
+    std::size_t const primeiro = id_token.find_first_not_of('0');
+    return primeiro == std::string::npos ? id_token : id_token.substr(primeiro);
+}
+
+std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal const& documento,
+                                    std::string const& digest, std::string const& id_token, std::string const& csc,
+                                    core::result::stack& stack)
+{
+    std::string chave;
+    if (!texto_do_campo(documento.get_chave_acesso(), chave, versao_url, "chave_acesso", stack)) {
+        return {};
+    }
+    std::string qrcode = chave + "|2";
+
+    switch (get_codigo_ambiente(documento.get_ambiente())) {
+    case 1: qrcode += "|1"; break;
+    case 2: qrcode += "|2"; break;
+    default:
+        core::fatal_exit("BUG FOUND! O codigo do ambiente não foi devidamente convertido ao gerar o qrcode versao 200");
+    }
+
+    // Offline, the consumer checks the note against what the QR code itself
+    // says, as the authority has not seen it yet.
+    if (documento.get_chave_acesso().get_tipo_emissao() == fiscal::tipo_emissao::contingencia_offline_nfce) {
+        std::string emissao;
+        if (!texto_do_campo(documento.get_data_hora_emissao(), emissao, versao_url, "dh_emissao", stack)) {
+            return {};
+        }
+        qrcode += "|" + emissao.substr(posicao_dia, 2);
+        qrcode += "|" + documento.get_valor_total();
+        std::string digest_hex;
+        if (!digest_hexadecimal(digest, digest_hex, stack)) {
+            return {};
+        }
+        qrcode += "|" + digest_hex;
+    }
+
+    if (id_token.empty() || id_token.size() > id_token_max_length) {
+        core::result::fresh<processo_gerar_qrcode_result_category, 3>(stack, id_token);
+        return {};
+    }
+    qrcode += "|" + id_token;
+    if (!verificar_csc(csc, stack)) {
+        return {};
+    }
+
+    std::string hash;
+    if (!hash_qrcode(qrcode, csc, hash, stack)) {
+        return {};
+    }
+    return "p=" + qrcode + "|" + hash;
+}
+
+}  // namespace velk::erp::inline v4::tarn::nfe::detail
