@@ -10,6 +10,7 @@
 #include <velk/erp/tarn/chave_acesso.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 #include <velk/erp/tarn/modelo.hpp>
+#include <velk/erp/tarn/nfe/qrcode/informacoes_adicionais.hpp>
 #include <velk/erp/tarn/nfe/versao.hpp>
 #include <velk/xml/document.hpp>
 #include <velk/xml/element.hpp>
@@ -61,6 +62,21 @@ public:
     // tree whose Id differs fails in the signer). On failure the stack tells,
     // and the tree may hold an unsigned template: do not send it.
     void assinar(cryptography::pkcs12 const& certificado, core::result::stack& stack);
+
+    // The consumer QR code of an NFC-e, before signing: puts a qrCode (a CDATA
+    // section with the address of obter_url_qrcode) first in infNFeSupl, in
+    // place of any former one, and keeps it as get_qrcode_value. infNFeSupl
+    // is made, as the last child of NFe, when the tree has none; it stays
+    // even when the QR code then fails. On failure (obter_url_qrcode's) the
+    // value is unchanged. A tree that already has a qrCode keeps its text,
+    // whatever the token, CSC or page: the QR code of a document is made once.
+    // The CSC and its token are used for this call only and not kept.
+    void gerar_qrcode(informacoes_adicionais const& informacoes, std::string const& id_token, std::string const& csc,
+                      core::result::stack& stack);
+    // The urlChave of infNFeSupl: any former one goes, and the caller's text
+    // (a CDATA section) comes last in infNFeSupl, which is made as above. An
+    // absent url_chave leaves none, and an infNFeSupl that may be empty.
+    void adicionar_url_chave(informacoes_adicionais const& informacoes);
 
     chave_acesso get_chave_acesso() const;
     versao get_versao() const;

@@ -1,0 +1,242 @@
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
+
+#include <support/files.hpp>
+#include <support/nfce_texto.hpp>
+#include <support/notas_fiscais.hpp>
+#include <support/qrcode_esperado.hpp>
+#include <support/schema.hpp>
+#include <support/test_certificates.hpp>
+#include <support/xmlsec.hpp>
+#include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
+#include <velk/xml/node.hpp>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace nfe = velk::erp::tarn::nfe;
+using nfe::informacoes_adicionais;
+using nfe::versao_qrcode;
+using nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::core::result::stack;
+
+constexpr char id_element[] = "http://www.portalfiscal.inf.br/nfe:infNFe";
+constexpr char csc[] = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
+constexpr char url_chave[] = "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta";
+constexpr char pagina[] = "https://www.homologacao.nfce.fazenda.sp.gov.br/qrcode?";
+
+documento_fiscal read(std::string const& text)
+{
+    stack s;
+    velk::xml::document tree;
+    EXPECT_TRUE(tree.load(velk::core::byte_array(text), s)) << s.to_string();
+    documento_fiscal document = documento_fiscal::from_xml(tree, s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return document;
+}
+
+std::string text_of(velk::xml::element const& root)
+{
+    stack s;
+    velk::xml::document document;
+    document.append_node(root, s);
+    return velk::xml::document::save(document, s).to_string();
+}
+
+std::vector<std::string> child_names(velk::xml::element const& parent)
+{
+    std::vector<std::string> names;
+    for (velk::xml::node const& child : parent.get_node_range()) {
+        if (child.as_element() != nullptr) {
+            names.push_back(child.as_element()->get_name());
+        }
+    }
+    return names;
+}
+
+// The only child of a tag of infNFeSupl must be a CDATA section; its text.
+std::string cdata_of(velk::xml::element const& nfe, char const* tag)
+{
+    velk::xml::element const* supplement = nfe.find_child("infNFeSupl");
+    if (supplement == nullptr || supplement->find_child(tag) == nullptr) {
+        return "(absent)";
+    }
+    velk::xml::element const& element = *supplement->find_child(tag);
+    auto const children = element.get_node_range();
+    if (std::distance(children.begin(), children.end()) != 1 || children.begin()->as_cdata_section() == nullptr) {
+        return "(not one CDATA section)";
+    }
+    return children.begin()->as_cdata_section()->get_contents();
+}
+
+velk::cryptography::pkcs12 taxpayer()
+{
+    auto const& certificates = velk::test::test_certificates::instance();
+    stack s;
+    auto bundle = velk::cryptography::pkcs12::from_byte_array(certificates.pkcs12(), certificates.password(), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return bundle;
+}
+
+// What a signed NFC-e must pass: the layout's order of NFe's children, both
+// supplement tags as CDATA, the official schema and an independent verifier;
+// and the digest written in the QR code is the one the signature holds.
+void expect_signed_nfce(documento_fiscal const& document, std::string const& expected_qrcode)
+{
+    velk::xml::element const nfe = document.get_xml();
+    EXPECT_EQ(child_names(nfe), (std::vector<std::string>{"infNFe", "infNFeSupl", "Signature"}));
+    EXPECT_EQ(child_names(*nfe.find_child("infNFeSupl")), (std::vector<std::string>{"qrCode", "urlChave"}));
+    EXPECT_EQ(cdata_of(nfe, "qrCode"), expected_qrcode);
+    EXPECT_EQ(cdata_of(nfe, "urlChave"), url_chave);
+
+    std::string const text = text_of(nfe);
+    EXPECT_NE(text.find("<qrCode><![CDATA["), std::string::npos);
+    EXPECT_NE(text.find("<urlChave><![CDATA["), std::string::npos);
+    auto const problems =
+        velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", velk::core::byte_array(text));
+    EXPECT_TRUE(problems.empty()) << problems.front();
+    auto const verified =
+        velk::test::xmlsec_verify(text, id_element, velk::test::test_certificates::instance().ca_pem());
+    EXPECT_TRUE(verified.success) << verified.output;
+
+    // Read back, the fields and the tree agree.
+    documento_fiscal const again = read(text);
+    EXPECT_EQ(again.get_qrcode_value().value_or("(absent)"), document.get_qrcode_value().value_or("(none)"));
+    EXPECT_EQ(again.get_url_chave().value_or("(absent)"), document.get_url_chave().value_or("(none)"));
+}
+
+struct signing_case {
+    char const* name;
+    bool offline;
+    versao_qrcode version;
+    char const* token;
+    char const* token_written;  // in version 2.00
+    std::optional<std::pair<std::string, std::string>> consumer;
+};
+
+TEST(documento_fiscal_qrcode, a_signed_nfce_carries_the_qrcode_made_from_its_signature_digest)
+{
+    signing_case const cases[] = {
+        {"1.00 online, no consumer", false, versao_qrcode::versao_100, "000001", "000001", std::nullopt},
+        {"1.00 offline, CPF", true, versao_qrcode::versao_100, "123456", "123456",
+         std::pair<std::string, std::string>{"CPF", "12345678909"}},
+        {"2.00 online, CNPJ", false, versao_qrcode::versao_200, "000001", "1",
+         std::pair<std::string, std::string>{"CNPJ", "11222333000181"}},
+        {"2.00 offline, no consumer", true, versao_qrcode::versao_200, "012345", "12345", std::nullopt},
+    };
+    velk::cryptography::pkcs12 const certificate = taxpayer();
+    for (signing_case const& current : cases) {
+        SCOPED_TRACE(current.name);
+        velk::test::nfce_campos fields;
+        fields.contingencia_offline = current.offline;
+        fields.destinatario = current.consumer;
+        velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
+        documento_fiscal document = read(nfce.texto);
+
+        informacoes_adicionais const informacoes(current.version, std::string(url_chave), pagina);
+        stack s;
+        document.gerar_qrcode(informacoes, current.token, csc, s);
+        ASSERT_FALSE(s.has_failed()) << s.to_string();
+        document.adicionar_url_chave(informacoes);
+        std::string const digest_before = document.get_digest_value();
+        document.assinar(certificate, s);
+        ASSERT_FALSE(s.has_failed()) << s.to_string();
+
+        // The QR code was made before the signature existed, from the digest
+        // that the signature now holds.
+        std::string const signed_digest =
+            document.get_xml().find_child("Signature")->find_child("SignedInfo")->find_child("Reference")
+                ->find_child("DigestValue")->get_contents();
+        EXPECT_EQ(signed_digest, digest_before);
+        velk::test::qrcode_entrada const entrada = velk::test::entrada_qrcode(fields, nfce, signed_digest);
+        std::string const expected =
+            pagina + (current.version == versao_qrcode::versao_100
+                          ? velk::test::qrcode_esperado_100(entrada, current.token, csc)
+                          : velk::test::qrcode_esperado_200(entrada, current.token_written, csc));
+        EXPECT_EQ(document.get_qrcode_value().value_or("(absent)"), expected);
+        if (current.version == versao_qrcode::versao_100 || current.offline) {
+            EXPECT_NE(expected.find(velk::test::hex_minusculo(signed_digest)), std::string::npos);
+        }
+        expect_signed_nfce(document, expected);
+    }
+}
+
+TEST(documento_fiscal_qrcode, a_generated_nfce_signs_and_validates_with_its_supplement)
+{
+    stack s;
+    documento_fiscal document =
+        documento_fiscal::from_nota_fiscal(velk::test::nota_nfce_simples(), nfe::versao::versao_4_00, s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    informacoes_adicionais const informacoes(versao_qrcode::versao_200, std::string(url_chave), pagina);
+    // urlChave first: the QR code still goes ahead of it.
+    document.adicionar_url_chave(informacoes);
+    document.gerar_qrcode(informacoes, "000001", csc, s);
+    document.assinar(taxpayer(), s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    std::string const key = "35240527164983000158650010000482131619382749";
+    std::string const expected = std::string(pagina) + "p=" + key + "|2|2|1|" +
+                                 velk::test::sha1_maiusculo(key + "|2|2|1" + csc);
+    expect_signed_nfce(document, expected);
+}
+
+TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_empty_supplement)
+{
+    velk::test::nfce_campos fields;
+    documento_fiscal document = read(velk::test::nfce_texto(fields).texto);
+
+    // A failure: the supplement is made, the value stays unset.
+    stack s;
+    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, pagina), "12345", csc, s);
+    ASSERT_EQ(s.size(), 1U);
+    EXPECT_EQ(s.get_value(), 3);
+    EXPECT_FALSE(document.get_qrcode_value().has_value());
+    ASSERT_NE(document.get_xml().find_child("infNFeSupl"), nullptr);
+    EXPECT_TRUE(child_names(*document.get_xml().find_child("infNFeSupl")).empty());
+
+    s.reset();
+    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_200, std::nullopt, "http://primeira?"), "1",
+                          csc, s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    std::string const first = *document.get_qrcode_value();
+    EXPECT_EQ(first.rfind("http://primeira?p=", 0), 0U) << first;
+
+    // Again, with other values and even a CSC that would fail: the text stays.
+    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, "http://segunda?"),
+                          "999999", "", s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_EQ(*document.get_qrcode_value(), first);
+    EXPECT_EQ(cdata_of(document.get_xml(), "qrCode"), first);
+    EXPECT_EQ(child_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
+    EXPECT_EQ(child_names(document.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
+}
+
+TEST(documento_fiscal_qrcode, url_chave_replaces_and_removes_the_former_one)
+{
+    std::string text = velk::test::nfce_texto(velk::test::nfce_campos{}).texto;
+    text.replace(text.find("</NFe>"), 6,
+                 "<infNFeSupl><urlChave>http://a</urlChave><qrCode>x</qrCode><urlChave>http://b</urlChave>"
+                 "</infNFeSupl></NFe>");
+    documento_fiscal document = read(text);
+    EXPECT_EQ(*document.get_url_chave(), "http://a");
+
+    document.adicionar_url_chave(informacoes_adicionais(versao_qrcode::versao_100, std::string("http://c&d"), ""));
+    EXPECT_EQ(child_names(*document.get_xml().find_child("infNFeSupl")),
+              (std::vector<std::string>{"qrCode", "urlChave"}));
+    EXPECT_EQ(cdata_of(document.get_xml(), "urlChave"), "http://c&d");
+    EXPECT_EQ(*document.get_url_chave(), "http://c&d");
+
+    document.adicionar_url_chave(informacoes_adicionais());
+    EXPECT_FALSE(document.get_url_chave().has_value());
+    EXPECT_EQ(child_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
+
+    // On a tree without a supplement, an empty one is made and left.
+    documento_fiscal bare = read(velk::test::nfce_texto(velk::test::nfce_campos{}).texto);
+    bare.adicionar_url_chave(informacoes_adicionais());
+    EXPECT_EQ(child_names(bare.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
+    EXPECT_TRUE(child_names(*bare.get_xml().find_child("infNFeSupl")).empty());
+}
+
+}  // namespace
