@@ -9,6 +9,9 @@ namespace velk::demo {
 void run_signature_step(demo_context& context);
 // The signed document and the three query messages (consSitNFe, consReciNFe, consGTIN).
 void run_queries_step(demo_context& context);
+// NFC-e generated from notes, with the QR code in versions 1.00 and 2.00,
+// online and in offline contingency, and urlChave; signed.
+void run_qrcode_step(demo_context& context);
 // A status query through the local SEFAZ simulator, over mutual TLS.
 void run_status_step(demo_context& context);
 

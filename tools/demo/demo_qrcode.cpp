@@ -1,0 +1,97 @@
+#include "demo_notas_nfce.hpp"
+#include "demo_steps.hpp"
+#include "demo_xml.hpp"
+
+#include <pki/certificate_authority.hpp>
+#include <velk/cryptography/pkcs12.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/url_consulta_qrcode.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
+
+#include <string>
+
+namespace velk::demo {
+
+namespace {
+
+using erp::tarn::nfe::informacoes_adicionais;
+using erp::tarn::nfe::versao_qrcode;
+using erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+
+// Homologation values made up for the demo: a taxpayer gets its own token
+// and CSC from its state; these are no one's.
+constexpr char id_token[] = "000001";
+constexpr char csc[] = "D3M0C5C0-0000-4A1B-9C2D-5E6F7A8B9C0D";
+
+struct nfce_demo {
+    char const* nome;  // in file names
+    erp::fiscal::nota_fiscal (*nota)();
+    char const* uf;
+    // The state's page for a consultation by access key, printed on the
+    // receipt beside the QR code; the caller always gives it.
+    char const* url_chave;
+    char const* descricao;
+};
+
+nfce_demo const notas[] = {
+    {"online", nota_nfce_online, "SP", "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta",
+     "NFC-e of a São Paulo grocery sent at once"},
+    {"contingencia", nota_nfce_contingencia, "PR", "http://www.fazenda.pr.gov.br/nfce/consulta",
+     "NFC-e of a Curitiba bakery issued in offline contingency (tpEmis 9)"},
+};
+
+struct versao_demo {
+    versao_qrcode versao;
+    char const* nome;
+    char const* texto;
+};
+
+versao_demo const versoes[] = {
+    {versao_qrcode::versao_100, "qr100", "1.00"},
+    {versao_qrcode::versao_200, "qr200", "2.00"},
+};
+
+}  // namespace
+
+void run_qrcode_step(demo_context& context)
+{
+    demo_context::say("QR code step: NFC-e generated from fiscal models, given their QR code and urlChave, signed");
+    context.set_qrcode_secret(id_token, csc);
+
+    tools::pki::certificate_authority const authority("Velk Demo CA");
+    std::string const password = "demo";
+    core::result::stack stack;
+    cryptography::pkcs12 const certificate = cryptography::pkcs12::from_byte_array(
+        authority.issue_client("EMPRESA DEMONSTRACAO LTDA:12345678000195").to_pkcs12(password), password, stack);
+    check(stack, "certificate");
+
+    for (nfce_demo const& nfce : notas) {
+        for (versao_demo const& versao : versoes) {
+            documento_fiscal document =
+                documento_fiscal::from_nota_fiscal(nfce.nota(), erp::tarn::nfe::versao::versao_4_00, stack);
+            check(stack, "NFC-e from its note");
+            // The state's consultation page, from the library's own table.
+            std::string const pagina = erp::tarn::nfe::detail::obter_url_consulta_qrcode(document, stack);
+            check(stack, "consultation page");
+
+            informacoes_adicionais const informacoes(versao.versao, std::string(nfce.url_chave), pagina);
+            document.gerar_qrcode(informacoes, id_token, csc, stack);
+            check(stack, "QR code");
+            document.adicionar_url_chave(informacoes);
+            std::string const digest = document.get_digest_value();
+            document.assinar(certificate, stack);
+            check(stack, "signature");
+            if (document.get_digest_value() != digest) {
+                throw demo_failure{"the QR code holds another digest than the signature"};
+            }
+            std::string const url = *document.get_qrcode_value();
+            demo_context::say(std::string("  QR code ") + versao.texto + " (" + nfce.nome + ", " + nfce.uf +
+                              "): " + url);
+            context.write({std::string("qrcode/nfce-") + nfce.nome + "-" + versao.nome + ".xml", "NFe", "4.00", "65",
+                           nfce.uf, true,
+                           std::string(nfce.descricao) + ", QR code " + versao.texto + ": " + url},
+                          to_text(document.get_xml(), "signed NFC-e"));
+        }
+    }
+}
+
+}  // namespace velk::demo
