@@ -68,13 +68,35 @@ produto item(std::string codigo, std::string descricao, std::uint32_t ncm, std::
         .set_tributacao_pis_cofins(pis_cofins_simples_nacional());
 }
 
-emitente loja(std::string cnpj, std::string razao_social, std::string ie, endereco local)
+// A shop of the Simples Nacional in the centre of its town.
+struct loja_demo {
+    char const* cnpj;
+    char const* razao_social;
+    char const* ie;
+    char const* logradouro;
+    char const* numero;
+    std::uint32_t municipio;
+    char const* nome_municipio;
+    char const* uf;
+    std::uint32_t cep;
+};
+
+emitente loja(loja_demo const& dados)
 {
     return emitente()
-        .set_cnpj(std::move(cnpj))
-        .set_razao_social(std::move(razao_social))
-        .set_endereco(std::move(local))
-        .set_ie(std::move(ie))
+        .set_cnpj(std::string(dados.cnpj))
+        .set_razao_social(dados.razao_social)
+        .set_endereco(endereco()
+                          .set_logradouro(dados.logradouro)
+                          .set_numero_endereco(dados.numero)
+                          .set_bairro("CENTRO")
+                          .set_ibge_municipio(dados.municipio)
+                          .set_nome_municipio(dados.nome_municipio)
+                          .set_uf(dados.uf)
+                          .set_cep(dados.cep)
+                          .set_ibge_pais(1058)
+                          .set_pais("BRASIL"))
+        .set_ie(dados.ie)
         .set_regime_fiscal(regime_tributario::simples_nacional);
 }
 
@@ -113,22 +135,13 @@ nota_fiscal com_total(nota_fiscal nota, core::decimal produtos, core::decimal tr
 
 nota_fiscal nota_nfce_online()
 {
-    endereco const sao_paulo = endereco()
-                                   .set_logradouro("RUA DAS AMOSTRAS")
-                                   .set_numero_endereco("100")
-                                   .set_bairro("CENTRO")
-                                   .set_ibge_municipio(3550308)
-                                   .set_nome_municipio("SAO PAULO")
-                                   .set_uf("SP")
-                                   .set_cep(1001000)
-                                   .set_ibge_pais(1058)
-                                   .set_pais("BRASIL");
     // 2 x 18.50 + 1 x 6.40 = 43.40
     nota_fiscal nota =
         venda_ao_consumidor("35240612345678000195650010000001011100001013", 10000101, 101,
                             horario_brasilia(2024, 6, 3, 10, 15), 3550308)
             .set_tipo_emissao(tipo_emissao::normal)
-            .set_emitente(loja("12345678000195", "EMPRESA DEMONSTRACAO LTDA", "111222333444", sao_paulo))
+            .set_emitente(loja({"12345678000195", "EMPRESA DEMONSTRACAO LTDA", "111222333444", "RUA DAS AMOSTRAS", "100",
+                                3550308, "SAO PAULO", "SP", 1001000}))
             .set_destinatario(destinatario()
                                   .set_cpf("12345678909")
                                   .set_indicador_de_ie(indicador_ie_destinatario::nao_contribuinte))
@@ -144,16 +157,6 @@ nota_fiscal nota_nfce_online()
 
 nota_fiscal nota_nfce_contingencia()
 {
-    endereco const curitiba = endereco()
-                                  .set_logradouro("RUA XV DE NOVEMBRO")
-                                  .set_numero_endereco("700")
-                                  .set_bairro("CENTRO")
-                                  .set_ibge_municipio(4106902)
-                                  .set_nome_municipio("CURITIBA")
-                                  .set_uf("PR")
-                                  .set_cep(80020310)
-                                  .set_ibge_pais(1058)
-                                  .set_pais("BRASIL");
     // 0.450 kg x 21.90 (9.855, billed 9.86) + 2 x 4.50 = 18.86, paid with 20.00
     nota_fiscal nota =
         venda_ao_consumidor("41240611222333000181650010000001029100001020", 10000102, 102,
@@ -161,7 +164,8 @@ nota_fiscal nota_nfce_contingencia()
             .set_tipo_emissao(tipo_emissao::contingencia_offline_nfce)
             .set_data_contingencia(horario_brasilia(2024, 6, 7, 7, 30))
             .set_justificativa_entrada_contingencia("SEM CONEXAO COM A SEFAZ AUTORIZADORA DO PARANA")
-            .set_emitente(loja("11222333000181", "PANIFICADORA DEMONSTRACAO LTDA", "9012345678", curitiba))
+            .set_emitente(loja({"11222333000181", "PANIFICADORA DEMONSTRACAO LTDA", "9012345678", "RUA XV DE NOVEMBRO",
+                                "700", 4106902, "CURITIBA", "PR", 80020310}))
             .set_produtos({item("0101", "PAO DE QUEIJO", 19059090, "KG", quantidade(450), valor(2190), valor(986),
                                 valor(163)),
                            item("0102", "CAFE EXPRESSO", 21011110, "UN", quantidade(2000), valor(450), valor(900),

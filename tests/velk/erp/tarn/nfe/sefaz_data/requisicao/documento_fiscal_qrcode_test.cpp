@@ -1,5 +1,7 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
+#include "documento_fiscal_teste.hpp"
+
 #include <support/files.hpp>
 #include <support/nfce_texto.hpp>
 #include <support/notas_fiscais.hpp>
@@ -22,8 +24,10 @@ using nfe::informacoes_adicionais;
 using nfe::versao_qrcode;
 using nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::core::result::stack;
+using velk::test::child_element_names;
+using velk::test::taxpayer;
+using velk::test::text_of;
 
-constexpr char id_element[] = "http://www.portalfiscal.inf.br/nfe:infNFe";
 constexpr char csc[] = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
 constexpr char url_chave[] = "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta";
 constexpr char pagina[] = "https://www.homologacao.nfce.fazenda.sp.gov.br/qrcode?";
@@ -36,25 +40,6 @@ documento_fiscal read(std::string const& text)
     documento_fiscal document = documento_fiscal::from_xml(tree, s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     return document;
-}
-
-std::string text_of(velk::xml::element const& root)
-{
-    stack s;
-    velk::xml::document document;
-    document.append_node(root, s);
-    return velk::xml::document::save(document, s).to_string();
-}
-
-std::vector<std::string> child_names(velk::xml::element const& parent)
-{
-    std::vector<std::string> names;
-    for (velk::xml::node const& child : parent.get_node_range()) {
-        if (child.as_element() != nullptr) {
-            names.push_back(child.as_element()->get_name());
-        }
-    }
-    return names;
 }
 
 // The only child of a tag of infNFeSupl must be a CDATA section; its text.
@@ -72,23 +57,14 @@ std::string cdata_of(velk::xml::element const& nfe, char const* tag)
     return children.begin()->as_cdata_section()->get_contents();
 }
 
-velk::cryptography::pkcs12 taxpayer()
-{
-    auto const& certificates = velk::test::test_certificates::instance();
-    stack s;
-    auto bundle = velk::cryptography::pkcs12::from_byte_array(certificates.pkcs12(), certificates.password(), s);
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
-    return bundle;
-}
-
 // What a signed NFC-e must pass: the layout's order of NFe's children, both
 // supplement tags as CDATA, the official schema and an independent verifier;
 // and the digest written in the QR code is the one the signature holds.
 void expect_signed_nfce(documento_fiscal const& document, std::string const& expected_qrcode)
 {
     velk::xml::element const nfe = document.get_xml();
-    EXPECT_EQ(child_names(nfe), (std::vector<std::string>{"infNFe", "infNFeSupl", "Signature"}));
-    EXPECT_EQ(child_names(*nfe.find_child("infNFeSupl")), (std::vector<std::string>{"qrCode", "urlChave"}));
+    EXPECT_EQ(child_element_names(nfe), (std::vector<std::string>{"infNFe", "infNFeSupl", "Signature"}));
+    EXPECT_EQ(child_element_names(*nfe.find_child("infNFeSupl")), (std::vector<std::string>{"qrCode", "urlChave"}));
     EXPECT_EQ(cdata_of(nfe, "qrCode"), expected_qrcode);
     EXPECT_EQ(cdata_of(nfe, "urlChave"), url_chave);
 
@@ -99,7 +75,7 @@ void expect_signed_nfce(documento_fiscal const& document, std::string const& exp
         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", velk::core::byte_array(text));
     EXPECT_TRUE(problems.empty()) << problems.front();
     auto const verified =
-        velk::test::xmlsec_verify(text, id_element, velk::test::test_certificates::instance().ca_pem());
+        velk::test::xmlsec_verify(text, velk::test::id_infnfe, velk::test::test_certificates::instance().ca_pem());
     EXPECT_TRUE(verified.success) << verified.output;
 
     // Read back, the fields and the tree agree.
@@ -194,7 +170,7 @@ TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_emp
     EXPECT_EQ(s.get_value(), 3);
     EXPECT_FALSE(document.get_qrcode_value().has_value());
     ASSERT_NE(document.get_xml().find_child("infNFeSupl"), nullptr);
-    EXPECT_TRUE(child_names(*document.get_xml().find_child("infNFeSupl")).empty());
+    EXPECT_TRUE(child_element_names(*document.get_xml().find_child("infNFeSupl")).empty());
 
     s.reset();
     document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_200, std::nullopt, "http://primeira?"), "1",
@@ -209,8 +185,8 @@ TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_emp
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(*document.get_qrcode_value(), first);
     EXPECT_EQ(cdata_of(document.get_xml(), "qrCode"), first);
-    EXPECT_EQ(child_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
-    EXPECT_EQ(child_names(document.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
+    EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
+    EXPECT_EQ(child_element_names(document.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
 }
 
 TEST(documento_fiscal_qrcode, url_chave_replaces_and_removes_the_former_one)
@@ -223,20 +199,20 @@ TEST(documento_fiscal_qrcode, url_chave_replaces_and_removes_the_former_one)
     EXPECT_EQ(*document.get_url_chave(), "http://a");
 
     document.adicionar_url_chave(informacoes_adicionais(versao_qrcode::versao_100, std::string("http://c&d"), ""));
-    EXPECT_EQ(child_names(*document.get_xml().find_child("infNFeSupl")),
+    EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")),
               (std::vector<std::string>{"qrCode", "urlChave"}));
     EXPECT_EQ(cdata_of(document.get_xml(), "urlChave"), "http://c&d");
     EXPECT_EQ(*document.get_url_chave(), "http://c&d");
 
     document.adicionar_url_chave(informacoes_adicionais());
     EXPECT_FALSE(document.get_url_chave().has_value());
-    EXPECT_EQ(child_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
+    EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
 
     // On a tree without a supplement, an empty one is made and left.
     documento_fiscal bare = read(velk::test::nfce_texto(velk::test::nfce_campos{}).texto);
     bare.adicionar_url_chave(informacoes_adicionais());
-    EXPECT_EQ(child_names(bare.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
-    EXPECT_TRUE(child_names(*bare.get_xml().find_child("infNFeSupl")).empty());
+    EXPECT_EQ(child_element_names(bare.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
+    EXPECT_TRUE(child_element_names(*bare.get_xml().find_child("infNFeSupl")).empty());
 }
 
 }  // namespace

@@ -1,5 +1,7 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
+#include "documento_fiscal_teste.hpp"
+
 #include <support/files.hpp>
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
@@ -21,8 +23,9 @@ using namespace velk::erp::tarn;
 using namespace velk::erp::tarn::nfe::sefaz_data;
 using requisicao::documento_fiscal;
 using velk::core::result::stack;
-
-constexpr char id_element[] = "http://www.portalfiscal.inf.br/nfe:infNFe";
+using velk::test::child_element_names;
+using velk::test::taxpayer;
+using velk::test::text_of;
 
 velk::xml::element parse(std::string const& text)
 {
@@ -42,25 +45,6 @@ velk::xml::element sample_nfe(std::string const& file)
     return root;
 }
 
-std::string text_of(velk::xml::element const& root)
-{
-    stack s;
-    velk::xml::document document;
-    document.append_node(root, s);
-    return velk::xml::document::save(document, s).to_string();
-}
-
-std::vector<std::string> child_element_names(velk::xml::element const& parent)
-{
-    std::vector<std::string> names;
-    for (auto const& child : parent.get_node_range()) {
-        if (child.as_element() != nullptr) {
-            names.push_back(child.as_element()->get_name());
-        }
-    }
-    return names;
-}
-
 bool remove_signature(velk::xml::element& nfe)
 {
     auto children = nfe.get_node_range();
@@ -71,15 +55,6 @@ bool remove_signature(velk::xml::element& nfe)
         }
     }
     return false;
-}
-
-velk::cryptography::pkcs12 taxpayer()
-{
-    auto const& certificates = velk::test::test_certificates::instance();
-    stack s;
-    auto bundle = velk::cryptography::pkcs12::from_byte_array(certificates.pkcs12(), certificates.password(), s);
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
-    return bundle;
 }
 
 std::string contents_at(velk::xml::element const& root, std::string const& path)
@@ -210,7 +185,7 @@ TEST(documento_fiscal, signs_every_sample_so_that_verifier_and_schema_accept_it)
 
         std::string const text = text_of(signed_nfe);
         auto const verified =
-            velk::test::xmlsec_verify(text, id_element, velk::test::test_certificates::instance().ca_pem());
+            velk::test::xmlsec_verify(text, velk::test::id_infnfe, velk::test::test_certificates::instance().ca_pem());
         EXPECT_TRUE(verified.success) << verified.output;
         auto const problems =
             velk::test::validate_against_schema(velk::test::schema_dir() / current.schema, velk::core::byte_array(text));
@@ -228,7 +203,7 @@ TEST(documento_fiscal, signing_again_replaces_only_the_first_signature)
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(child_element_names(document.get_xml()),
               (std::vector<std::string>{"infNFe", "infNFeSupl", "Signature"}));
-    auto const verified = velk::test::xmlsec_verify(text_of(document.get_xml()), id_element,
+    auto const verified = velk::test::xmlsec_verify(text_of(document.get_xml()), velk::test::id_infnfe,
                                                     velk::test::test_certificates::instance().ca_pem());
     EXPECT_TRUE(verified.success) << verified.output;
 
