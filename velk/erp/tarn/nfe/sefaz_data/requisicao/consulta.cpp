@@ -1,6 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/consulta.hpp>
 
-#include <velk/erp/tarn/nfe/sefaz_data/detail/namespace_nfe.hpp>
+#include <velk/erp/tarn/nfe/namespace_nfe.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
@@ -46,7 +46,7 @@ xml::element consulta::get_xml(core::result::stack& stack) const
     std::string versao_text;
     if (!detail::escrever_campo(versao_text, dados_->versao_layout, request_name, "versao", stack) ||
         !root.append_attribute(xml::attribute("versao", versao_text), stack) ||
-        !root.append_namespace(xml::namespace_id("", sefaz_data::detail::namespace_nfe), stack)) {
+        !root.append_namespace(xml::namespace_id("", nfe::namespace_nfe), stack)) {
         return root;
     }
     std::string ambiente_text;

@@ -1,6 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/consulta_gtin.hpp>
 
-#include <velk/erp/tarn/nfe/sefaz_data/detail/namespace_nfe.hpp>
+#include <velk/erp/tarn/nfe/namespace_nfe.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
@@ -33,7 +33,7 @@ xml::element consulta_gtin::get_xml(core::result::stack& stack) const
 {
     xml::element root("consGTIN");
     std::string versao_text;
-    if (!root.append_namespace(xml::namespace_id("", sefaz_data::detail::namespace_nfe), stack) ||
+    if (!root.append_namespace(xml::namespace_id("", nfe::namespace_nfe), stack) ||
         !detail::escrever_campo(versao_text, dados_->versao_layout, "consulta_gtin", "versao_layout", stack) ||
         !root.append_attribute(xml::attribute("versao", versao_text), stack)) {
         return root;

@@ -1,6 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/consulta_recibo.hpp>
 
-#include <velk/erp/tarn/nfe/sefaz_data/detail/namespace_nfe.hpp>
+#include <velk/erp/tarn/nfe/namespace_nfe.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
@@ -43,7 +43,7 @@ modelo consulta_recibo::get_modelo_chave() const { return dados_->modelo_documen
 xml::element consulta_recibo::get_xml(core::result::stack& stack) const
 {
     xml::element root("consReciNFe");
-    if (!root.append_namespace(xml::namespace_id("", sefaz_data::detail::namespace_nfe), stack)) {
+    if (!root.append_namespace(xml::namespace_id("", nfe::namespace_nfe), stack)) {
         return root;
     }
     // The field is named with its accent here, unlike in the other requests:
