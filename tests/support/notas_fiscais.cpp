@@ -321,6 +321,7 @@ nota_fiscal nota_nfe_completa()
                                                          .set_pais("Brasil"))
                                        .set_telefone("1932345678")
                                        .set_ie("244680170119")
+                                       .set_inscricao_municipal("1392817")
                                        .set_cnae(4644301)
                                        .set_regime_fiscal(regime_tributario::regime_normal);
 
