@@ -15,6 +15,7 @@ packages=(
     g++ cmake ninja-build pkg-config
     libxml2-dev libssl-dev libcurl4-openssl-dev libprotobuf-dev protobuf-compiler
     libgtest-dev libgmock-dev libbenchmark-dev
+    libcpp-httplib-dev
     openssl curl xmlsec1 libxml2-utils
 )
 

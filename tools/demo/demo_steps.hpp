@@ -7,5 +7,7 @@ namespace velk::demo {
 // The steps of the demo, in the order they run. Each lives in a file of its
 // own and throws demo_failure with the failure report when the library fails.
 void run_signature_step(demo_context& context);
+// A status query through the local SEFAZ simulator, over mutual TLS.
+void run_status_step(demo_context& context);
 
 }  // namespace velk::demo

@@ -35,6 +35,7 @@ int main(int argc, char** argv)
                                   " demo, output in " + out.string());
     try {
         velk::demo::run_signature_step(context);
+        velk::demo::run_status_step(context);
         context.write_manifest();
     } catch (velk::demo::demo_failure const& failure) {
         std::fprintf(stderr, "velk-demo: %s\n", failure.what.c_str());

@@ -1,0 +1,117 @@
+#include "simulator_options.hpp"
+
+#include <charconv>
+#include <cstring>
+#include <functional>
+#include <map>
+
+namespace velk::tools::sefaz_sim {
+
+namespace {
+
+bool read_int(std::string const& text, int low, int high, int& value)
+{
+    int read = 0;
+    auto const [end, problem] = std::from_chars(text.data(), text.data() + text.size(), read);
+    if (problem != std::errc() || end != text.data() + text.size() || read < low || read > high) {
+        return false;
+    }
+    value = read;
+    return true;
+}
+
+}  // namespace
+
+bool simulator_options::parse(int argc, char** argv, simulator_options& options, std::string& error)
+{
+    using setter = std::function<bool(std::string const&)>;
+    std::map<std::string, setter> const with_value = {
+        {"--host", [&](std::string const& v) { options.host = v; return true; }},
+        {"--port", [&](std::string const& v) { return read_int(v, 0, 65535, options.port); }},
+        {"--cert", [&](std::string const& v) { options.certificate = v; return true; }},
+        {"--key", [&](std::string const& v) { options.key = v; return true; }},
+        {"--client-ca", [&](std::string const& v) { options.client_ca = v; return true; }},
+        {"--schemas", [&](std::string const& v) { options.schemas = v; return true; }},
+        {"--record", [&](std::string const& v) { options.record = v; return true; }},
+        {"--fault", [&](std::string const& v) { return fault_from_name(v, options.injected); }},
+        {"--delay-ms", [&](std::string const& v) { return read_int(v, 0, 3600000, options.delay_ms); }},
+        {"--tls-max", [&](std::string const& v) { options.tls_max = v; return v == "1.2" || v == "1.3"; }},
+    };
+    for (int index = 1; index < argc; ++index) {
+        std::string const name = argv[index];
+        if (name == "--help" || name == "-h") {
+            options.help = true;
+            return true;
+        }
+        if (name == "--verbose") {
+            options.verbose = true;
+            continue;
+        }
+        auto const found = with_value.find(name);
+        if (found == with_value.end()) {
+            error = "unknown option " + name;
+            return false;
+        }
+        if (index + 1 >= argc) {
+            error = name + " needs a value";
+            return false;
+        }
+        std::string const value = argv[++index];
+        if (!found->second(value)) {
+            error = "bad value for " + name + ": " + value;
+            return false;
+        }
+    }
+    if (options.certificate.empty() || options.key.empty() || options.client_ca.empty()) {
+        error = "--cert, --key and --client-ca are required";
+        return false;
+    }
+    return true;
+}
+
+std::string simulator_options::usage()
+{
+    std::string text =
+        "usage: velk-sefaz-sim --cert FILE --key FILE --client-ca FILE [options]\n"
+        "\n"
+        "A local stand-in for a SEFAZ web service: HTTPS on a loopback address, a\n"
+        "client certificate required (mutual TLS), SOAP 1.2 (application/soap+xml).\n"
+        "Requests are POSTs of an Envelope whose Body holds nfeDadosMsg with one\n"
+        "message; the message's root element chooses the service. Implemented:\n"
+        "  consStatServ   status of the service: retConsStatServ, cStat 107\n"
+        "Whatever the path of the URL, the same services answer.\n"
+        "\n"
+        "  --cert FILE       server certificate (PEM)\n"
+        "  --key FILE        its private key (PEM, unencrypted)\n"
+        "  --client-ca FILE  CA certificate (PEM) that must have signed the client's\n"
+        "                    certificate; a client without one is refused in the handshake\n"
+        "  --host ADDRESS    address to listen on (default 127.0.0.1)\n"
+        "  --port N          port to listen on; 0 (the default) picks a free one.\n"
+        "                    The port is printed as the first line on stdout.\n"
+        "  --schemas DIR     folder of the official NF-e schemas: each message is\n"
+        "                    validated against <root>_v<versao>.xsd, and a message that\n"
+        "                    fails is answered with cStat 215 (239 for an unknown version)\n"
+        "  --record DIR      write each request into DIR: NNNN.xml the body as received,\n"
+        "                    NNNN.headers the HTTP request line and headers\n"
+        "  --fault KIND      answer every request wrongly, one of:\n";
+    for (fault_kind const& kind : fault_kinds()) {
+        std::string name(kind.name);
+        name.resize(18, ' ');
+        text += "                      " + name + std::string(kind.description) + "\n";
+    }
+    text +=
+        "  --delay-ms N      the wait of --fault delay (default 3000)\n"
+        "  --tls-max V       highest TLS version offered, 1.2 or 1.3 (default). Under 1.2\n"
+        "                    a refused client certificate ends the handshake; under 1.3\n"
+        "                    the client learns it only when it sends or reads\n"
+        "  --verbose         one line per request on stderr\n"
+        "  --help            this text\n"
+        "\n"
+        "A request that is not an envelope of that shape, or whose message no service\n"
+        "answers, gets a SOAP Fault: soap:Sender with HTTP status 400, or\n"
+        "soap:VersionMismatch with 500 for an envelope of another SOAP version.\n"
+        "Another content type than application/soap+xml gets HTTP 415.\n";
+    return text;
+}
+
+}  // namespace velk::tools::sefaz_sim

@@ -1,0 +1,49 @@
+#pragma once
+
+#include <velk/core/optional.hpp>
+#include <velk/core/result/stack.hpp>
+#include <velk/cryptography/pkcs12.hpp>
+#include <velk/erp/tarn/detail/soap/message.hpp>
+#include <velk/network/proxy.hpp>
+
+#include <chrono>
+#include <memory>
+#include <string>
+
+namespace velk::erp::inline v4::tarn::detail::soap {
+
+// What one exchange needs besides the message: made afresh for each call from
+// the settings of a service object.
+class connection {
+public:
+    // The taxpayer's certificate and the authorities the server is checked
+    // against. Immutable once made, shared by a service, its copies and their
+    // connections.
+    struct auth_impl {
+        // Must stay the first member: the TLS set-up receives the address of
+        // the whole object and reads it as the pkcs12.
+        cryptography::pkcs12 pkcs12;
+        // File of trusted certificate authorities, handed to libcurl as it is.
+        std::string ca_info_path;
+    };
+
+    connection(core::optional<network::proxy> proxy, std::chrono::milliseconds timeout,
+               std::shared_ptr<auth_impl const> auth);
+
+    // One SOAP 1.2 POST over TLS with the client certificate: writes the
+    // envelope, sends it with a new libcurl handle (no reuse, "Connection:
+    // close"), and reads the answer with parse_response. Fails, with an empty
+    // message, on an empty endpoint or action (servico code 5, nothing sent),
+    // a zero time-out (servico code 3, nothing sent), a transport failure
+    // (curl_result_category, with libcurl's text in "curl_message"), an HTTP
+    // status of 400 or more (curl code 8) and whatever parse_response refuses.
+    message send(message const& request, std::string const& endpoint_url, std::string const& action_url,
+                 core::result::stack& result) const;
+
+private:
+    core::optional<network::proxy> proxy_;
+    std::chrono::milliseconds timeout_;
+    std::shared_ptr<auth_impl const> auth_;
+};
+
+}  // namespace velk::erp::inline v4::tarn::detail::soap

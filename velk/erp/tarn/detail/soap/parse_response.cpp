@@ -1,0 +1,84 @@
+#include <velk/erp/tarn/detail/soap/parse_response.hpp>
+
+#include <velk/core/result/report.hpp>
+#include <velk/erp/tarn/detail/soap/walker_soap_fault.hpp>
+#include <velk/erp/tarn/nfe/servico_result_category.hpp>
+#include <velk/xml/document.hpp>
+#include <velk/xml/node.hpp>
+
+namespace velk::erp::inline v4::tarn::detail::soap {
+
+namespace {
+
+using servico = nfe::servico_result_category;
+
+void report_soap_fault(xml::element const& fault, core::result::stack& result)
+{
+    walker_soap_fault walker;
+    core::result::stack ignored;
+    walker.traverse_element(fault, ignored);
+    core::result::fresh<servico, 4>(result, walker.get_fault());
+}
+
+}  // namespace
+
+message parse_response(core::byte_array const& bytes, core::result::stack& result)
+{
+    auto const refuse = [&](std::string const& description) {
+        core::result::fresh<servico, 16>(result, description, bytes);
+        return message();
+    };
+
+    xml::document document;
+    if (!document.load(bytes, result)) {
+        core::result::chain<servico, 16>(result, "A receita não respondeu um xml válido", bytes);
+        return message();
+    }
+    xml::element const* envelope = document.get_root_element();
+    if (envelope == nullptr) {
+        return refuse("root-element não encontrado");
+    }
+    if (envelope->get_name() != "Envelope") {
+        return refuse("root-element não é um 'Envelope'");
+    }
+
+    xml::element const* body = nullptr;
+    for (xml::node const& child : envelope->get_node_range()) {
+        xml::element const* part = child.as_element();
+        if (part != nullptr && part->get_name() == "Body") {
+            if (body != nullptr) {
+                return refuse("Foi encontrado mais de um body na mesma resposta da receita");
+            }
+            body = part;
+        } else if (part == nullptr || part->get_name() != "Header") {
+            return refuse("Foi encontrado um node inválido na resposta da receita");
+        }
+    }
+    if (body == nullptr) {
+        return refuse("Nenhuma element 'Body' encontrado");
+    }
+
+    message answer;
+    for (xml::node const& child : body->get_node_range()) {
+        xml::element const* part = child.as_element();
+        if (part == nullptr) {
+            return refuse("O child node do 'Body' encontrado não é um element válido");
+        }
+        if (part->get_name() == "Fault") {
+            report_soap_fault(*part, result);
+            return message();
+        }
+        body_element result_tag(part->get_name(), "");
+        for (xml::node const& inner : part->get_node_range()) {
+            xml::element const* tree = inner.as_element();
+            if (tree == nullptr) {
+                return refuse("O child node do '" + part->get_name() + "' encontrado não é um element válido");
+            }
+            result_tag.children.push_back(*tree);
+        }
+        answer.body.push_back(std::move(result_tag));
+    }
+    return answer;
+}
+
+}  // namespace velk::erp::inline v4::tarn::detail::soap
