@@ -1,17 +1,14 @@
 #include "demo_steps.hpp"
 
-#include <pki/certificate_authority.hpp>
+#include "demo_assinatura.hpp"
+
 #include <velk/cryptography/pkcs12.hpp>
-#include <velk/cryptography/xml/signature_template.hpp>
-#include <velk/cryptography/xml/signer.hpp>
 #include <velk/xml/canonicalize.hpp>
 #include <velk/xml/document.hpp>
 
 namespace velk::demo {
 
 namespace {
-
-namespace crypto_xml = cryptography::xml;
 
 constexpr char nfe_namespace[] = "http://www.portalfiscal.inf.br/nfe";
 constexpr char access_key[] = "35240612345678000195550010000000011000000010";
@@ -60,27 +57,6 @@ std::string to_text(xml::element const& root, core::result::stack& stack)
     return xml::document::save(document, stack).to_string();
 }
 
-// The enveloped RSA-SHA1 signature of the NF-e layouts, appended as the last
-// child of the root and computed with the certificate.
-void sign(xml::element& nfe, cryptography::pkcs12 const& certificate, core::result::stack& stack)
-{
-    xml::canonicalization_parameters::version_1_0 const parameters;
-    crypto_xml::method::canonicalization const canonicalization(parameters);
-    crypto_xml::reference reference(crypto_xml::method::digest::from_sha1());
-    reference.set_uri(std::string("#NFe") + access_key);
-    reference.add_transform(crypto_xml::method::transform::from_enveloped_signature());
-    reference.add_transform(crypto_xml::method::transform::from_canonicalization_method(canonicalization));
-    crypto_xml::signed_info info(canonicalization, crypto_xml::method::signature::from_rsa(
-                                                       cryptography::cryptographic_hash::algorithm::sha1));
-    info.add_reference(reference);
-    crypto_xml::key_info key;
-    key.add_X509();
-    xml::element signature = crypto_xml::signature_template(info, key, {}).get_element_template(stack);
-    check(stack, "signature template");
-    nfe.append_node(std::move(signature));
-    crypto_xml::signer(certificate.get_certificate(), certificate.get_evp_private_key()).execute(nfe, stack);
-}
-
 }  // namespace
 
 void run_signature_step(demo_context& context)
@@ -94,14 +70,10 @@ void run_signature_step(demo_context& context)
                    "Canonical XML 1.0 of a small unsigned NF-e made by the demo"},
                   canonical.to_string());
 
-    tools::pki::certificate_authority const authority("Velk Demo CA");
-    std::string const password = "demo";
-    core::byte_array const bundle =
-        authority.issue_client("EMPRESA DEMONSTRACAO LTDA:12345678000195").to_pkcs12(password);
-    cryptography::pkcs12 const certificate = cryptography::pkcs12::from_byte_array(bundle, password, stack);
+    cryptography::pkcs12 const certificate = make_demo_certificate(stack);
     check(stack, "certificate");
 
-    sign(nfe, certificate, stack);
+    sign_enveloped(nfe, std::string("#NFe") + access_key, certificate, stack);
     check(stack, "signature");
     context.write({"signature/nfe-signed.xml", "NFe", "4.00", "55", "SP", true,
                    "The same NF-e with its enveloped RSA-SHA1 signature (throw-away certificate)"},
