@@ -1,7 +1,10 @@
 // The cost of signing an NFC-e against the cost of its one RSA-2048
-// signature: all the XML work around the signature (serialising, parsing, two
-// canonicalisations, digest, Base64) should add no more than 30 % to it.
-#include <pki/certificate_authority.hpp>
+// signature: all the XML work around the signature (the libxml2 trees of the
+// signed element and of SignedInfo, two canonicalisations, digest, Base64)
+// should add no more than 30 % to it. This NFC-e has twelve small items; see
+// documento_fiscal.cpp for a typical one of four.
+#include "throwaway_certificate.hpp"
+
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/cryptography/xml/signature_template.hpp>
 #include <velk/cryptography/xml/signer.hpp>
@@ -11,7 +14,6 @@
 #include <benchmark/benchmark.h>
 
 #include <cstdio>
-#include <stdexcept>
 #include <string>
 
 namespace {
@@ -22,18 +24,7 @@ constexpr char nfe_id[] = "NFe35240612345678000195650010000000011000000019";
 
 crypto::pkcs12 const& certificate()
 {
-    static crypto::pkcs12 const bundle = [] {
-        velk::tools::pki::certificate_authority const authority("Velk Bench CA");
-        std::string const password = "bench";
-        velk::core::result::stack stack;
-        auto value = crypto::pkcs12::from_byte_array(authority.issue_client("BENCH LTDA:12345678000195").to_pkcs12(password),
-                                                     password, stack);
-        if (stack.has_failed()) {
-            throw std::runtime_error(stack.to_string());
-        }
-        return value;
-    }();
-    return bundle;
+    return velk::bench::throwaway_certificate();
 }
 
 // An NFC-e of about 5 KB: identification, issuer, twelve items, totals,

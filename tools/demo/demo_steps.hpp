@@ -7,6 +7,8 @@ namespace velk::demo {
 // The steps of the demo, in the order they run. Each lives in a file of its
 // own and throws demo_failure with the failure report when the library fails.
 void run_signature_step(demo_context& context);
+// The signed document and the three query messages (consSitNFe, consReciNFe, consGTIN).
+void run_queries_step(demo_context& context);
 // A status query through the local SEFAZ simulator, over mutual TLS.
 void run_status_step(demo_context& context);
 // An NFC-e and an NF-e of layout 4.00 generated from fiscal models and signed.

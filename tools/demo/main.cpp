@@ -35,6 +35,7 @@ int main(int argc, char** argv)
                                   " demo, output in " + out.string());
     try {
         velk::demo::run_signature_step(context);
+        velk::demo::run_queries_step(context);
         velk::demo::run_status_step(context);
         velk::demo::run_generation_step(context);
         context.write_manifest();

@@ -3,14 +3,13 @@
 #include <velk/core/binary_encoder.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/cryptography/cryptography_result_category.hpp>
+#include <velk/cryptography/xml/detail/canonical_writer.hpp>
 #include <velk/cryptography/xml/detail/identifiers.hpp>
-#include <velk/cryptography/xml/detail/libxml_document.hpp>
-#include <velk/cryptography/xml/detail/subtree_canonicalizer.hpp>
-#include <velk/xml/document.hpp>
+#include <velk/cryptography/xml/detail/libxml_subtree.hpp>
+#include <velk/cryptography/xml/detail/namespace_scope.hpp>
 #include <velk/xml/node.hpp>
 
 #include <algorithm>
-#include <cstring>
 #include <string>
 #include <vector>
 
@@ -21,86 +20,36 @@ namespace xml {
 namespace {
 
 using category = cryptography_result_category;
+using velk::xml::element;
 
-// --- the template as libxml2 parsed it --------------------------------------
+// --- reading the template ----------------------------------------------------
 
-bool has_name(xmlNode const* node, char const* name)
+std::vector<element const*> children(element const& parent, char const* name)
 {
-    return node->type == XML_ELEMENT_NODE && std::strcmp(reinterpret_cast<char const*>(node->name), name) == 0;
-}
-
-xmlNode* first_child(xmlNode* parent, char const* name)
-{
-    for (xmlNode* child = parent->children; child != nullptr; child = child->next) {
-        if (has_name(child, name)) {
-            return child;
-        }
-    }
-    return nullptr;
-}
-
-std::vector<xmlNode*> children(xmlNode* parent, char const* name)
-{
-    std::vector<xmlNode*> found;
-    for (xmlNode* child = parent->children; child != nullptr; child = child->next) {
-        if (has_name(child, name)) {
-            found.push_back(child);
+    std::vector<element const*> found;
+    for (auto const& child : parent.get_node_range()) {
+        element const* value = child.as_element();
+        if (value != nullptr && value->get_name() == name) {
+            found.push_back(value);
         }
     }
     return found;
 }
 
 // The value of an attribute without namespace; empty when absent.
-core::optional<std::string> attribute_value(xmlNode* node, char const* name)
+core::optional<std::string> attribute_value(element const& value, char const* name)
 {
-    xmlAttr* attribute = xmlHasNsProp(node, reinterpret_cast<xmlChar const*>(name), nullptr);
-    if (attribute == nullptr) {
-        return {};
-    }
-    xmlChar* value = xmlNodeListGetString(node->doc, attribute->children, 1);
-    std::string text = value == nullptr ? std::string() : std::string(reinterpret_cast<char const*>(value));
-    xmlFree(value);
-    return text;
-}
-
-void collect_by_id(xmlNode* node, std::string const& id, std::vector<xmlNode*>& found)
-{
-    for (; node != nullptr; node = node->next) {
-        if (node->type != XML_ELEMENT_NODE) {
-            continue;
-        }
-        if (attribute_value(node, "Id") == id) {
-            found.push_back(node);
-        }
-        collect_by_id(node->children, id, found);
-    }
-}
-
-// The element a reference "#id" names: the one element whose Id is id.
-xmlNode* resolve(xmlNode* root, std::string const& uri, core::result::stack& stack)
-{
-    std::vector<xmlNode*> found;
-    if (uri.size() >= 2 && uri.front() == '#') {
-        collect_by_id(root, uri.substr(1), found);
-    }
-    if (found.empty()) {
-        core::result::fresh<category, 13>(stack, uri);
-        return nullptr;
-    }
-    if (found.size() > 1) {
-        core::result::fresh<category, 14>(stack, uri);
-        return nullptr;
-    }
-    return found.front();
+    velk::xml::attribute const* found = value.find_attribute("", name);
+    return found == nullptr ? core::optional<std::string>() : core::optional<std::string>(found->get_value());
 }
 
 // The Algorithm of a method element: code 12 when the element or the
 // attribute is missing.
-core::optional<std::string> algorithm_of(xmlNode* parent, char const* name, core::result::stack& stack)
+core::optional<std::string> algorithm_of(element const& parent, char const* name, core::result::stack& stack)
 {
-    xmlNode* method = first_child(parent, name);
+    element const* method = parent.find_child(name);
     core::optional<std::string> algorithm = method == nullptr ? core::optional<std::string>()
-                                                              : attribute_value(method, "Algorithm");
+                                                              : attribute_value(*method, "Algorithm");
     if (!algorithm.has_value()) {
         core::result::fresh<category, 12>(stack, name);
     }
@@ -109,7 +58,6 @@ core::optional<std::string> algorithm_of(xmlNode* parent, char const* name, core
 
 // One Reference of SignedInfo and what computing its digest takes.
 struct reference_work {
-    xmlNode* digest_value = nullptr;
     std::string uri;
     cryptographic_hash::algorithm algorithm = cryptographic_hash::algorithm::sha1;
     bool enveloped = false;
@@ -117,14 +65,14 @@ struct reference_work {
     std::string value;  // Base64 digest, once computed
 };
 
-bool read_transforms(xmlNode* reference, reference_work& work, core::result::stack& stack)
+bool read_transforms(element const& reference, reference_work& work, core::result::stack& stack)
 {
-    xmlNode* transforms = first_child(reference, "Transforms");
+    element const* transforms = reference.find_child("Transforms");
     if (transforms == nullptr) {
         return true;
     }
-    for (xmlNode* transform : children(transforms, "Transform")) {
-        core::optional<std::string> const algorithm = attribute_value(transform, "Algorithm");
+    for (element const* transform : children(*transforms, "Transform")) {
+        core::optional<std::string> const algorithm = attribute_value(*transform, "Algorithm");
         if (!algorithm.has_value()) {
             core::result::fresh<category, 12>(stack, "Transform");
             return false;
@@ -141,7 +89,7 @@ bool read_transforms(xmlNode* reference, reference_work& work, core::result::sta
     return true;
 }
 
-bool read_reference(xmlNode* reference, reference_work& work, core::result::stack& stack)
+bool read_reference(element const& reference, reference_work& work, core::result::stack& stack)
 {
     work.uri = attribute_value(reference, "URI").value_or("");
     if (!read_transforms(reference, work, stack)) {
@@ -157,123 +105,148 @@ bool read_reference(xmlNode* reference, reference_work& work, core::result::stac
         return false;
     }
     work.algorithm = *algorithm;
-    work.digest_value = first_child(reference, "DigestValue");
-    if (work.digest_value == nullptr) {
+    if (reference.find_child("DigestValue") == nullptr) {
         core::result::fresh<category, 12>(stack, "DigestValue");
         return false;
     }
     return true;
 }
 
-// Digests the referenced element and writes the value into the parsed
-// DigestValue, where the canonical SignedInfo will read it.
-bool digest_reference(detail::libxml_document const& document, xmlNode* signature, reference_work& work,
-                      core::result::stack& stack)
+// The namespace the element is in once the tree is saved: its own, or what
+// its prefix names where it stands.
+std::string resolved_namespace(std::span<element const* const> path)
 {
-    xmlNode* target = resolve(document.get_root(), work.uri, stack);
-    if (target == nullptr) {
+    detail::namespace_scope scope;
+    for (element const* step : path) {
+        scope.enter(*step);
+    }
+    std::string const& name = path.back()->get_qualified_name();
+    std::size_t const colon = name.find(':');
+    auto const* found = scope.find(colon == std::string::npos ? std::string_view() : std::string_view(name).substr(0, colon));
+    return found == nullptr ? std::string() : std::string(found->uri);
+}
+
+// --- the referenced element --------------------------------------------------
+
+// An element whose Id a reference names, with its ancestors from the root of
+// the signed tree, outermost first.
+struct located {
+    element const* target = nullptr;
+    std::vector<element const*> ancestors;
+};
+
+void collect_by_id(element const& current, std::string_view id, std::vector<element const*>& path,
+                   std::vector<located>& found)
+{
+    velk::xml::attribute const* attribute = current.find_attribute("", "Id");
+    if (attribute != nullptr && attribute->get_value() == id) {
+        found.push_back({&current, path});
+    }
+    path.push_back(&current);
+    for (auto const& child : current.get_node_range()) {
+        if (element const* nested = child.as_element()) {
+            collect_by_id(*nested, id, path, found);
+        }
+    }
+    path.pop_back();
+}
+
+// The element a reference "#id" names: the one element whose Id is id.
+bool resolve(element const& root, std::string const& uri, located& target, core::result::stack& stack)
+{
+    std::vector<located> found;
+    if (uri.size() >= 2 && uri.front() == '#') {
+        std::vector<element const*> path;
+        collect_by_id(root, std::string_view(uri).substr(1), path, found);
+    }
+    if (found.empty()) {
+        core::result::fresh<category, 13>(stack, uri);
+        return false;
+    }
+    if (found.size() > 1) {
+        core::result::fresh<category, 14>(stack, uri);
+        return false;
+    }
+    target = std::move(found.front());
+    return true;
+}
+
+bool is_within(located const& place, element const* candidate)
+{
+    return place.target == candidate ||
+           std::find(place.ancestors.begin(), place.ancestors.end(), candidate) != place.ancestors.end();
+}
+
+// Canonical XML 1.0 of the referenced element in its context, hashed. With
+// the enveloped-signature transform the Signature being computed is left out;
+// a reference into that Signature digests nothing.
+bool digest_reference(element const& root, element const& signature, detail::canonical_writer& writer,
+                      reference_work& work, core::result::stack& stack)
+{
+    located target;
+    if (!resolve(root, work.uri, target, stack)) {
         return false;
     }
     cryptographic_hash hash = cryptographic_hash::from_algorithm(work.algorithm, stack);
     if (stack.has_failed()) {
         return false;
     }
-    auto const feed = [&hash](unsigned char const* data, std::size_t size) { hash.update(data, size); };
-    if (!detail::subtree_canonicalizer::write(document.get(), target, work.enveloped ? signature : nullptr,
-                                              work.with_comments, feed, stack)) {
-        return false;
+    if (!work.enveloped || !is_within(target, &signature)) {
+        detail::libxml_subtree const subtree = detail::libxml_subtree::build(
+            target.ancestors, *target.target, work.enveloped ? &signature : nullptr, {}, stack);
+        auto const feed = [&hash](unsigned char const* data, std::size_t size) { hash.update(data, size); };
+        if (subtree.get() == nullptr || !writer.write(subtree.get(), work.with_comments, feed, stack)) {
+            return false;
+        }
     }
     core::byte_array const digest = hash.finish(stack);
     if (stack.has_failed()) {
         return false;
     }
     work.value = core::binary_encoder::encode(core::binary_encoding::base64, digest);
-    xmlNodeSetContent(work.digest_value, reinterpret_cast<xmlChar const*>(work.value.c_str()));
     return true;
 }
 
-// --- the same template in the caller's tree ----------------------------------
+// --- writing into the caller's tree ------------------------------------------
 
-velk::xml::element* last_child(velk::xml::element& parent, char const* name)
+element* last_child(element& parent, char const* name)
 {
-    velk::xml::element* found = nullptr;
+    element* found = nullptr;
     for (auto& child : parent.get_node_range()) {
-        velk::xml::element* element = child.as_element();
-        if (element != nullptr && element->get_name() == name) {
-            found = element;
+        element* value = child.as_element();
+        if (value != nullptr && value->get_name() == name) {
+            found = value;
         }
     }
     return found;
 }
 
-std::vector<velk::xml::element*> children(velk::xml::element& parent, char const* name)
+std::vector<element*> children(element& parent, char const* name)
 {
-    std::vector<velk::xml::element*> found;
+    std::vector<element*> found;
     for (auto& child : parent.get_node_range()) {
-        velk::xml::element* element = child.as_element();
-        if (element != nullptr && element->get_name() == name) {
-            found.push_back(element);
+        element* value = child.as_element();
+        if (value != nullptr && value->get_name() == name) {
+            found.push_back(value);
         }
     }
     return found;
 }
 
-// Where the signer writes: found before anything is written, so that a
-// template it cannot fill is left untouched.
-struct output_places {
-    std::vector<velk::xml::element*> digest_values;
-    velk::xml::element* signature_value = nullptr;
-    velk::xml::element* x509_data = nullptr;  // null without KeyInfo/X509Data
-};
-
-bool find_output_places(velk::xml::element& signature, std::size_t reference_count, output_places& places,
-                        core::result::stack& stack)
+// The DigestValue of each Reference, in order.
+std::vector<element*> digest_values(element& signed_info)
 {
-    velk::xml::element* signed_info = signature.find_child("SignedInfo");
-    std::vector<velk::xml::element*> references;
-    if (signed_info != nullptr) {
-        references = children(*signed_info, "Reference");
+    std::vector<element*> found = children(signed_info, "Reference");
+    for (element*& reference : found) {
+        reference = reference->find_child("DigestValue");
     }
-    for (velk::xml::element* reference : references) {
-        places.digest_values.push_back(reference->find_child("DigestValue"));
-    }
-    places.signature_value = signature.find_child("SignatureValue");
-    if (velk::xml::element* key_info = signature.find_child("KeyInfo")) {
-        places.x509_data = key_info->find_child("X509Data");
-    }
-    bool const complete = places.digest_values.size() == reference_count &&
-                          std::find(places.digest_values.begin(), places.digest_values.end(), nullptr) ==
-                              places.digest_values.end();
-    if (!complete) {
-        core::result::fresh<category, 12>(stack, "Reference");
-        return false;
-    }
-    if (places.signature_value == nullptr) {
-        core::result::fresh<category, 12>(stack, "SignatureValue");
-        return false;
-    }
-    return true;
+    return found;
 }
 
-// The caller's tree as bytes. The element is moved into a document and back,
-// so the tree is not copied.
-core::byte_array serialise(velk::xml::element& elemento_pai, core::result::stack& stack)
-{
-    velk::xml::document document;
-    if (!document.append_node(std::move(elemento_pai), stack)) {
-        return {};
-    }
-    core::byte_array bytes = velk::xml::document::save(document, stack);
-    elemento_pai = std::move(*document.get_root_element());
-    if (stack.has_failed()) {
-        core::result::chain<category, 16>(stack, "o elemento pai não pôde ser serializado");
-    }
-    return bytes;
-}
-
-// The whole signature, reporting on a stack that starts empty.
-bool sign_in_place(x509_certificate const& certificate, evp_private_key const& key,
-                   velk::xml::element& elemento_pai, core::result::stack& stack)
+// The whole signature, reporting on a stack that starts empty. Nothing is
+// written into the caller's tree before everything has been computed.
+bool sign_in_place(x509_certificate const& certificate, evp_private_key const& key, element& elemento_pai,
+                   core::result::stack& stack)
 {
     core::byte_array const certificate_der = certificate.to_byte_array(encoding::der, stack);
     if (stack.has_failed()) {
@@ -287,42 +260,25 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
         core::result::fresh<category, 7>(stack, certificate.get_subject_common_name());
         return false;
     }
-    velk::xml::element* signature = last_child(elemento_pai, "Signature");
+    element* signature = last_child(elemento_pai, "Signature");
     if (signature == nullptr) {
         core::result::fresh<category, 15>(stack, elemento_pai.get_name());
         return false;
     }
-
-    core::byte_array const serialised = serialise(elemento_pai, stack);
-    if (stack.has_failed()) {
-        return false;
-    }
-    // Moving the tree in and out of the document may have moved its nodes.
-    signature = last_child(elemento_pai, "Signature");
-    detail::libxml_document const document = detail::libxml_document::parse(serialised, stack);
-    if (stack.has_failed()) {
-        return false;
-    }
-    xmlNode* parsed_signature = nullptr;
-    for (xmlNode* child = document.get_root()->children; child != nullptr; child = child->next) {
-        if (has_name(child, "Signature")) {
-            parsed_signature = child;
-        }
-    }
-    if (parsed_signature == nullptr || parsed_signature->ns == nullptr ||
-        std::strcmp(reinterpret_cast<char const*>(parsed_signature->ns->href), detail::signature_namespace) != 0) {
+    element const* const signature_path[] = {&elemento_pai, signature};
+    if (resolved_namespace(signature_path) != detail::signature_namespace) {
         core::result::fresh<category, 12>(stack, "Signature");
         return false;
     }
-    xmlNode* signed_info = first_child(parsed_signature, "SignedInfo");
+    element* signed_info = signature->find_child("SignedInfo");
     if (signed_info == nullptr) {
         core::result::fresh<category, 12>(stack, "SignedInfo");
         return false;
     }
 
-    core::optional<std::string> const canonicalization = algorithm_of(signed_info, "CanonicalizationMethod", stack);
+    core::optional<std::string> const canonicalization = algorithm_of(*signed_info, "CanonicalizationMethod", stack);
     core::optional<std::string> const signature_method =
-        canonicalization.has_value() ? algorithm_of(signed_info, "SignatureMethod", stack) : core::optional<std::string>();
+        canonicalization.has_value() ? algorithm_of(*signed_info, "SignatureMethod", stack) : core::optional<std::string>();
     if (stack.has_failed()) {
         return false;
     }
@@ -333,46 +289,60 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
         return false;
     }
 
-    std::vector<xmlNode*> const parsed_references = children(signed_info, "Reference");
-    if (parsed_references.empty()) {
+    std::vector<element const*> const reference_elements = children(std::as_const(*signed_info), "Reference");
+    if (reference_elements.empty()) {
         core::result::fresh<category, 12>(stack, "Reference");
         return false;
     }
-    output_places places;
-    if (!find_output_places(*signature, parsed_references.size(), places, stack)) {
+    element* signature_value = signature->find_child("SignatureValue");
+    if (signature_value == nullptr) {
+        core::result::fresh<category, 12>(stack, "SignatureValue");
         return false;
     }
-    std::vector<reference_work> references(parsed_references.size());
+    detail::canonical_writer writer;
+    std::vector<reference_work> references(reference_elements.size());
     for (std::size_t i = 0; i < references.size(); ++i) {
-        if (!read_reference(parsed_references[i], references[i], stack) ||
-            !digest_reference(document, parsed_signature, references[i], stack)) {
+        if (!read_reference(*reference_elements[i], references[i], stack) ||
+            !digest_reference(elemento_pai, *signature, writer, references[i], stack)) {
             return false;
         }
     }
 
+    // SignedInfo as it will stand, with the digests, canonicalised where it
+    // stands.
+    std::vector<element*> const digest_places = digest_values(*signed_info);
+    std::vector<detail::libxml_subtree::replacement> filled;
+    for (std::size_t i = 0; i < references.size(); ++i) {
+        filled.push_back({digest_places[i], &references[i].value});
+    }
     core::byte_array canonical_signed_info;
-    canonical_signed_info.reserve(2048);
+    canonical_signed_info.reserve(1024);
     auto const collect = [&canonical_signed_info](unsigned char const* data, std::size_t size) {
         canonical_signed_info.append(data, data + size);
     };
-    if (!detail::subtree_canonicalizer::write(document.get(), signed_info, nullptr, *with_comments, collect, stack)) {
+    detail::libxml_subtree const signed_info_tree =
+        detail::libxml_subtree::build(signature_path, *signed_info, nullptr, filled, stack);
+    if (signed_info_tree.get() == nullptr || !writer.write(signed_info_tree.get(), *with_comments, collect, stack)) {
         return false;
     }
-    core::byte_array const signature_value = key.sign(*signature_hash, canonical_signed_info, stack);
+    core::byte_array const signature_bytes = key.sign(*signature_hash, canonical_signed_info, stack);
     if (stack.has_failed()) {
         return false;
     }
 
     for (std::size_t i = 0; i < references.size(); ++i) {
-        places.digest_values[i]->set_contents(references[i].value);
+        digest_places[i]->set_contents(references[i].value);
     }
-    places.signature_value->set_contents(core::binary_encoder::encode(core::binary_encoding::base64, signature_value));
-    if (places.x509_data != nullptr) {
-        std::string const certificate_text = core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
-        if (velk::xml::element* x509_certificate = places.x509_data->find_child("X509Certificate")) {
-            x509_certificate->set_contents(certificate_text);
-        } else {
-            places.x509_data->append_node(velk::xml::element("X509Certificate", velk::xml::text(certificate_text)));
+    signature_value->set_contents(core::binary_encoder::encode(core::binary_encoding::base64, signature_bytes));
+    if (element* key_info = signature->find_child("KeyInfo")) {
+        if (element* x509_data = key_info->find_child("X509Data")) {
+            std::string const certificate_text =
+                core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
+            if (element* x509_certificate = x509_data->find_child("X509Certificate")) {
+                x509_certificate->set_contents(certificate_text);
+            } else {
+                x509_data->append_node(element("X509Certificate", velk::xml::text(certificate_text)));
+            }
         }
     }
     return true;

@@ -3,7 +3,6 @@
 // What the signer tests share: the NF-e signature template, trees to and from
 // text, and the places of the signature's values.
 
-#include <support/assinatura_nfe.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/xml/element.hpp>
@@ -12,6 +11,13 @@
 #include <string>
 
 namespace velk::test {
+
+// The unsigned Signature of the NF-e profile for the reference uri ("#" + Id).
+xml::element nfe_signature_template(std::string const& uri, core::result::stack& stack);
+
+// Appends the template as the last child of the parent and signs it.
+bool append_and_sign(xml::element& parent, std::string const& uri, cryptography::pkcs12 const& certificate,
+                     core::result::stack& stack);
 
 // Erases the first child element named Signature; false when there is none.
 bool remove_first_signature(xml::element& parent);

@@ -1,6 +1,7 @@
 #include <velk/erp/tarn/nfe/layout_4_00/escrever_layout_4_00.hpp>
 
 #include <velk/erp/tarn/nfe/layout_4_00/escrita.hpp>
+#include <velk/erp/tarn/nfe/namespace_nfe.hpp>
 #include <velk/xml/attribute.hpp>
 #include <velk/xml/namespace_id.hpp>
 
@@ -9,8 +10,6 @@
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 namespace {
-
-char const* const namespace_nfe = "http://www.portalfiscal.inf.br/nfe";
 
 bool escrever_infNFe(xml::element& nfe, layout_4_00 const& arvore, core::result::stack& stack)
 {

@@ -1,14 +1,14 @@
-// Every note of the corpus becomes a document that, signed, the official
-// schema accepts and an independent verifier confirms.
+// Every note of the corpus becomes, through from_nota_fiscal, a document that,
+// signed, the official schema accepts and an independent verifier confirms.
 
 #include "layout_teste.hpp"
 
-#include <support/assinatura_nfe.hpp>
 #include <support/corpus_notas.hpp>
 #include <support/files.hpp>
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
 #include <support/xmlsec.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <gtest/gtest.h>
 
@@ -18,6 +18,8 @@
 namespace {
 
 using velk::core::result::stack;
+using velk::erp::tarn::nfe::versao;
+using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::test::nota_do_corpus;
 
 class corpus : public testing::TestWithParam<nota_do_corpus> {};
@@ -36,15 +38,17 @@ velk::cryptography::pkcs12 const& certificado()
 
 TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
 {
-    velk::xml::document documento = velk::test::documento_de(GetParam().criar());
-    ASSERT_NE(documento.get_root_element(), nullptr);
-
     stack report;
-    ASSERT_TRUE(velk::test::sign_nfe(documento, certificado(), report)) << report.to_string();
-    std::string const texto = velk::xml::document::save(documento, report).to_string();
+    documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    documento.assinar(certificado(), report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    velk::xml::document arvore;
+    arvore.append_node(documento.get_xml(), report);
+    std::string const texto = velk::xml::document::save(arvore, report).to_string();
     ASSERT_FALSE(report.has_failed()) << report.to_string();
 
-    auto const erros = velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", documento);
+    auto const erros = velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", arvore);
     EXPECT_TRUE(erros.empty()) << testing::PrintToString(erros) << "\n" << texto;
 
     auto const verificacao = velk::test::xmlsec_verify(texto, "http://www.portalfiscal.inf.br/nfe:infNFe",

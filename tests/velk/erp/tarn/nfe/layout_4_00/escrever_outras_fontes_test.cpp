@@ -4,12 +4,12 @@
 
 #include "layout_teste.hpp"
 
-#include <support/assinatura_nfe.hpp>
 #include <support/corpus_notas.hpp>
 #include <support/files.hpp>
 #include <support/notas_fiscais.hpp>
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <gtest/gtest.h>
 
@@ -22,6 +22,7 @@ namespace {
 namespace layout = velk::erp::tarn::nfe::layout_4_00;
 namespace grupo = velk::erp::tarn::nfe::layout_4_00::grupo;
 using velk::core::result::stack;
+using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::test::valor;
 
 layout::layout_4_00 arvore_de(velk::erp::fiscal::nota_fiscal const& nota)
@@ -171,12 +172,15 @@ TEST(escrever_outras_fontes, purchase_and_sugar_cane)
 // The errors of the official schema for a note, signed as it is sent.
 std::string erros_do_esquema(layout::layout_4_00 const& arvore)
 {
-    velk::xml::document documento = documento_de(arvore);
     auto const& certificados = velk::test::test_certificates::instance();
     stack report;
     auto const certificado =
         velk::cryptography::pkcs12::from_byte_array(certificados.pkcs12(), certificados.password(), report);
-    EXPECT_TRUE(velk::test::sign_nfe(documento, certificado, report)) << report.to_string();
+    documento_fiscal nota = documento_fiscal::from_xml(documento_de(arvore), report);
+    nota.assinar(certificado, report);
+    EXPECT_FALSE(report.has_failed()) << report.to_string();
+    velk::xml::document documento;
+    documento.append_node(nota.get_xml(), report);
     std::string erros;
     for (std::string const& erro :
          velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", documento)) {

@@ -1,0 +1,110 @@
+#include <velk/erp/tarn/nfe/detail/assinatura.hpp>
+
+#include <support/test_certificates.hpp>
+#include <velk/core/converter_result_category.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
+#include <velk/xml/document.hpp>
+#include <velk/xml/node.hpp>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using velk::core::result::stack;
+namespace campo = velk::erp::tarn::nfe::sefaz_data::requisicao::detail;
+
+velk::cryptography::pkcs12 taxpayer()
+{
+    auto const& certificates = velk::test::test_certificates::instance();
+    stack s;
+    return velk::cryptography::pkcs12::from_byte_array(certificates.pkcs12(), certificates.password(), s);
+}
+
+velk::xml::element parse(std::string const& text)
+{
+    stack s;
+    velk::xml::document document;
+    document.load(velk::core::byte_array(text), s);
+    return *document.get_root_element();
+}
+
+std::vector<std::string> children_of(velk::xml::element const& parent)
+{
+    std::vector<std::string> names;
+    for (auto const& child : parent.get_node_range()) {
+        names.push_back(child.as_element() != nullptr ? child.as_element()->get_name() : "#text");
+    }
+    return names;
+}
+
+TEST(assinatura, drops_only_the_first_signature_among_the_elements)
+{
+    velk::xml::element root = parse("<evento>\n<Signature n=\"1\"/><infEvento/>\n<Signature n=\"2\"/></evento>");
+    EXPECT_TRUE(velk::erp::tarn::nfe::detail::remover_primeira_assinatura(root));
+    EXPECT_EQ(children_of(root), (std::vector<std::string>{"#text", "infEvento", "#text", "Signature"}));
+    EXPECT_EQ(root.find_child("Signature")->get_attributes().front().get_value(), "2");
+    EXPECT_TRUE(velk::erp::tarn::nfe::detail::remover_primeira_assinatura(root));
+    EXPECT_FALSE(velk::erp::tarn::nfe::detail::remover_primeira_assinatura(root));
+}
+
+TEST(assinatura, an_identifier_without_text_ends_the_frame_unsigned)
+{
+    velk::xml::element root = parse("<evento><infEvento Id=\"ID1\"/><Signature/></evento>");
+    stack s;
+    auto const failing = [](std::string& id, stack& pieces) {
+        id = "ID";
+        return campo::escrever_numero(id, 100, 2, true, "evento", "sequencia", pieces);
+    };
+    velk::erp::tarn::nfe::detail::assinar_raiz(root, failing, taxpayer(), s);
+    ASSERT_EQ(s.size(), 2U) << s.to_string();
+    EXPECT_EQ(s.get_value(), 9);
+    EXPECT_EQ(*s.top().find_argument("request-name"), "evento");
+    EXPECT_EQ(*s.top().find_argument("field-name"), "sequencia");
+    EXPECT_EQ(children_of(root), (std::vector<std::string>{"infEvento"})) << "old signature gone, none added";
+
+    s.reset();
+    auto const good = [](std::string& id, stack&) {
+        id = "ID1";
+        return true;
+    };
+    velk::erp::tarn::nfe::detail::assinar_raiz(root, good, taxpayer(), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_EQ(root.find_child("Signature")->find_child("SignedInfo")->find_child("Reference")->find_attribute("", "URI")->get_value(),
+              "#ID1");
+}
+
+TEST(assinatura, identifier_pieces_have_their_widths)
+{
+    struct row {
+        unsigned long long value;
+        unsigned digits;
+        bool exact;
+        char const* text;  // null: refused
+    };
+    row const rows[] = {
+        {7, 2, true, "07"},     {99, 2, true, "99"},         {100, 2, true, nullptr},
+        {35, 9, false, "000000035"}, {1234567890, 9, false, "1234567890"}, {0, 3, false, "000"},
+    };
+    for (row const& current : rows) {
+        SCOPED_TRACE(current.value);
+        stack s;
+        std::string text = "ID";
+        bool const written = campo::escrever_numero(text, current.value, current.digits, current.exact, "inutilizacao",
+                                                    "serie", s);
+        if (current.text == nullptr) {
+            EXPECT_FALSE(written);
+            EXPECT_EQ(text, "ID");
+            EXPECT_EQ(s.begin()->get_value(), 2);
+            EXPECT_EQ(*s.top().find_argument("field-name"), "serie");
+        } else {
+            EXPECT_TRUE(written);
+            EXPECT_EQ(text, std::string("ID") + current.text);
+        }
+    }
+}
+
+}  // namespace

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <velk/core/converter.hpp>
+#include <velk/core/result/stack.hpp>
+#include <velk/erp/tarn/ambiente.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
+
+#include <string>
+
+namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao::detail {
+
+// The text of the fields of an outgoing message. A value that has no text
+// leaves the converter's failure on the stack with code 9 of the SEFAZ data
+// category on top of it, naming the request and the field, and the call gives
+// false; nothing is appended then.
+
+// Appends the text of `value` by the text recipe of the converters.
+template <class T>
+bool escrever_campo(std::string& destino, T const& value, char const* request_name, char const* field_name,
+                    core::result::stack& stack)
+{
+    std::size_t const before = stack.size();
+    std::string const text = core::make_string(value, stack);
+    if (stack.size() != before) {
+        core::result::chain<result_category, 9>(stack, request_name, field_name);
+        return false;
+    }
+    destino += text;
+    return true;
+}
+
+// Appends the code that tag tpAmb writes (2 or 1). A value outside the
+// enumeration has no code: converter failure 2 under the code 9.
+bool escrever_ambiente(std::string& destino, ambiente value, char const* request_name, core::result::stack& stack);
+
+// Appends `value` in decimal, left-filled with zeros to at least `digits`
+// digits (exactly `digits` when `exact`, where a wider value fails with
+// converter failure 2 under the code 9).
+bool escrever_numero(std::string& destino, unsigned long long value, unsigned digits, bool exact,
+                     char const* request_name, char const* field_name, core::result::stack& stack);
+
+}  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao::detail

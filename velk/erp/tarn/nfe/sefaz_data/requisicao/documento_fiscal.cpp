@@ -1,0 +1,262 @@
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
+
+#include <velk/core/binary_encoder.hpp>
+#include <velk/core/fatal.hpp>
+#include <velk/cryptography/cryptographic_hash.hpp>
+#include <velk/erp/tarn/nfe/detail/assinatura.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/documento_fiscal_dados.hpp>
+#include <velk/xml/canonicalize.hpp>
+#include <velk/xml/node.hpp>
+
+#include <utility>
+
+namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
+
+namespace {
+
+using found_elements = std::unordered_map<std::string, xml::element const*>;
+
+// The paths read below, relative to NFe. Failures name them with "NFe/" in
+// front.
+std::vector<std::string> const wanted_paths = {
+    "infNFe",
+    "infNFe/ide/tpAmb", "infNFe/ide/mod", "infNFe/ide/cUF", "infNFe/ide/dhEmi",
+    "infNFe/ide/serie", "infNFe/ide/cNF", "infNFe/ide/nNF",
+    "infNFe/dest/email", "infNFe/dest/CPF", "infNFe/dest/CNPJ", "infNFe/dest/idEstrangeiro",
+    "infNFe/total/ICMSTot/vNF", "infNFe/total/ICMSTot/vICMS",
+    "infNFeSupl/qrCode", "infNFeSupl/urlChave",
+};
+
+// The destination is identified by the first of these that is present.
+char const* const destination_identifiers[] = {"infNFe/dest/CPF", "infNFe/dest/CNPJ", "infNFe/dest/idEstrangeiro"};
+
+constexpr std::size_t id_length = 47;  // "NFe" and the 44 digits of the key
+constexpr char digest_path[] = "Signature/SignedInfo/Reference/DigestValue";
+
+template <class T>
+bool read_required_path(found_elements const& found, std::string const& path, T& value, core::result::stack& stack)
+{
+    return read_required(lookup(found, path), "NFe/" + path, value, stack);
+}
+
+template <class T>
+bool read_optional_path(found_elements const& found, std::string const& path, core::optional<T>& value,
+                        core::result::stack& stack)
+{
+    return read_optional(lookup(found, path), "NFe/" + path, value, stack);
+}
+
+// The attributes of infNFe: the key behind the three letters of the Id, and
+// the layout version.
+bool read_identification(xml::element const& inf_nfe, chave_acesso& chave, versao& versao_layout,
+                         core::result::stack& stack)
+{
+    xml::attribute const* id = inf_nfe.find_attribute("", "Id");
+    if (id == nullptr) {
+        core::result::fresh<result_category, 4>(stack, "NFe/infNFe/Id");
+        return false;
+    }
+    std::string const& id_text = id->get_value();
+    if (id_text.size() != id_length) {
+        core::result::fresh<result_category, 3>(stack, "NFe/infNFe/Id", id_text);
+        return false;
+    }
+    std::string const key_text = id_text.substr(3);
+    if (!core::read_value(chave, key_text, stack)) {
+        // The name is written "NFE" here, as it has always been reported.
+        core::result::chain<result_category, 3>(stack, "NFE/infNFe/Id", key_text);
+        return false;
+    }
+    xml::attribute const* version = inf_nfe.find_attribute("", "versao");
+    if (version == nullptr) {
+        core::result::fresh<result_category, 4>(stack, "NFe/infNFe/versao");
+        return false;
+    }
+    if (!core::read_value(versao_layout, version->get_value(), stack)) {
+        core::result::chain<result_category, 3>(stack, "NFe/infNFe/versao", version->get_value());
+        return false;
+    }
+    return true;
+}
+
+// Fields is documento_fiscal::dados::campos_lidos, a private type.
+template <class Fields>
+bool read_fields(found_elements const& found, Fields& campos, core::result::stack& stack)
+{
+    if (!read_required_path(found, "infNFe/ide/tpAmb", campos.tipo_ambiente, stack) ||
+        !read_required_path(found, "infNFe/ide/mod", campos.modelo_documento, stack) ||
+        !read_required_path(found, "infNFe/ide/cUF", campos.uf, stack) ||
+        !read_optional_path(found, "infNFeSupl/qrCode", campos.qrcode_value, stack) ||
+        !read_optional_path(found, "infNFeSupl/urlChave", campos.url_chave, stack) ||
+        !read_required_path(found, "infNFe/ide/dhEmi", campos.data_hora_emissao, stack) ||
+        !read_required_path(found, "infNFe/ide/serie", campos.serie, stack) ||
+        !read_required_path(found, "infNFe/ide/cNF", campos.codigo_numerico, stack) ||
+        !read_required_path(found, "infNFe/ide/nNF", campos.numero_nota_fiscal, stack) ||
+        !read_optional_path(found, "infNFe/dest/email", campos.email_destinatario, stack)) {
+        return false;
+    }
+    for (char const* path : destination_identifiers) {
+        if (xml::element const* identifier = lookup(found, path)) {
+            campos.identificador_destinatario = identifier->get_contents();
+            break;
+        }
+    }
+    return read_required_path(found, "infNFe/total/ICMSTot/vNF", campos.valor_total, stack) &&
+           read_required_path(found, "infNFe/total/ICMSTot/vICMS", campos.valor_icms, stack);
+}
+
+// The child of `copy` at the position `child` has among the children of
+// `original`, `copy` being a copy of `original`.
+xml::element* same_child(xml::element& copy, xml::element const& original, xml::element const* child)
+{
+    auto copied = copy.get_node_range().begin();
+    for (xml::node const& candidate : original.get_node_range()) {
+        if (candidate.as_element() == child) {
+            return copied->as_element();
+        }
+        ++copied;
+    }
+    return nullptr;
+}
+
+// infNFe as the signer sees it: with the namespace declarations that NFe puts
+// in scope, which inclusive canonicalisation writes on the signed element.
+xml::element inf_nfe_in_scope(xml::element const& nfe, xml::element const& inf_nfe)
+{
+    xml::element copy = inf_nfe;
+    core::result::stack ignored;
+    for (xml::namespace_id const& declaration : nfe.get_namespaces()) {
+        if (!declaration.get_uri().empty()) {
+            copy.append_namespace(declaration, ignored);  // refused when infNFe declares the prefix itself
+        }
+    }
+    if (!nfe.get_namespace_uri().empty()) {
+        copy.append_namespace(xml::namespace_id(nfe.get_prefix(), nfe.get_namespace_uri()), ignored);
+    }
+    return copy;
+}
+
+std::string digest_of(xml::element const& nfe, xml::element const& inf_nfe)
+{
+    core::result::stack stack;
+    xml::document document;
+    document.append_node(inf_nfe_in_scope(nfe, inf_nfe), stack);
+    core::byte_array const canonical =
+        xml::canonicalize(xml::document::save(document, stack), xml::canonicalization_parameters::version_1_0{},
+                          stack);
+    cryptography::cryptographic_hash hash =
+        cryptography::cryptographic_hash::from_algorithm(cryptography::cryptographic_hash::algorithm::sha1, stack);
+    if (stack.has_failed()) {
+        return {};
+    }
+    hash.update(canonical);
+    core::byte_array const digest = hash.finish(stack);
+    if (stack.has_failed()) {
+        return {};
+    }
+    return core::binary_encoder::encode(core::binary_encoding::base64, digest);
+}
+
+}  // namespace
+
+documento_fiscal::dados::dados(dados const& other)
+    : campos(other.campos), xml(other.xml), inf_nfe(same_child(xml, other.xml, other.inf_nfe))
+{
+}
+
+documento_fiscal::documento_fiscal() = default;
+documento_fiscal::documento_fiscal(documento_fiscal const& other) = default;
+documento_fiscal::documento_fiscal(documento_fiscal&& other) noexcept = default;
+documento_fiscal& documento_fiscal::operator=(documento_fiscal const& other) = default;
+documento_fiscal& documento_fiscal::operator=(documento_fiscal&& other) noexcept = default;
+documento_fiscal::~documento_fiscal() = default;
+
+documento_fiscal documento_fiscal::from_xml(xml::element const& elemento, core::result::stack& stack)
+{
+    documento_fiscal result;
+    dados& data = *result.dados_;
+    data.xml = elemento;
+    if (data.xml.get_name() != "NFe") {
+        core::result::fresh<result_category, 1>(stack, "NFe");
+        return result;
+    }
+    // Looked up in the object's own tree, so the pointers stay good.
+    found_elements const found = find_elements_by_path(data.xml, wanted_paths);
+    if (lookup(found, "infNFe") == nullptr) {
+        core::result::fresh<result_category, 1>(stack, "NFe/infNFe");
+        return result;
+    }
+    data.inf_nfe = find_child_element(data.xml, "infNFe");
+    if (!read_identification(*data.inf_nfe, data.campos.chave, data.campos.versao_layout, stack)) {
+        return result;
+    }
+    // A document of layout 2.00 only travels as its XML.
+    if (data.campos.versao_layout == versao::versao_2_00) {
+        return result;
+    }
+    read_fields(found, data.campos, stack);
+    return result;
+}
+
+documento_fiscal documento_fiscal::from_xml(xml::document const& documento, core::result::stack& stack)
+{
+    xml::element const* root = documento.get_root_element();
+    if (root == nullptr) {
+        core::result::fresh<result_category, 5>(stack);
+        return {};
+    }
+    return from_xml(*root, stack);
+}
+
+void documento_fiscal::assinar(cryptography::pkcs12 const& certificado, core::result::stack& stack)
+{
+    chave_acesso const& chave = dados_->campos.chave;
+    auto const identificador = [&chave](std::string& id, core::result::stack& pieces) {
+        id = "NFe";
+        return detail::escrever_campo(id, chave, "documento_fiscal", "chave_acesso", pieces);
+    };
+    nfe::detail::assinar_raiz(dados_->xml, identificador, certificado, stack);
+}
+
+chave_acesso documento_fiscal::get_chave_acesso() const { return dados_->campos.chave; }
+versao documento_fiscal::get_versao() const { return dados_->campos.versao_layout; }
+ambiente documento_fiscal::get_ambiente() const { return dados_->campos.tipo_ambiente; }
+modelo documento_fiscal::get_modelo() const { return dados_->campos.modelo_documento; }
+estado documento_fiscal::get_estado() const { return dados_->campos.uf; }
+core::optional<std::string> documento_fiscal::get_qrcode_value() const { return dados_->campos.qrcode_value; }
+core::optional<std::string> documento_fiscal::get_url_chave() const { return dados_->campos.url_chave; }
+core::datetime documento_fiscal::get_data_hora_emissao() const { return dados_->campos.data_hora_emissao; }
+core::optional<std::string> documento_fiscal::get_email_destinatario() const
+{
+    return dados_->campos.email_destinatario;
+}
+std::uint32_t documento_fiscal::get_serie() const { return dados_->campos.serie; }
+std::uint32_t documento_fiscal::get_codigo_numerico() const { return dados_->campos.codigo_numerico; }
+std::uint32_t documento_fiscal::get_numero_nota_fiscal() const { return dados_->campos.numero_nota_fiscal; }
+std::string documento_fiscal::get_valor_total() const { return dados_->campos.valor_total; }
+std::string documento_fiscal::get_valor_icms() const { return dados_->campos.valor_icms; }
+core::optional<std::string> documento_fiscal::get_identificador_destinatario() const
+{
+    return dados_->campos.identificador_destinatario;
+}
+
+std::string documento_fiscal::get_digest_value() const
+{
+    found_elements const found = find_elements_by_path(dados_->xml, {digest_path});
+    if (xml::element const* digest = lookup(found, digest_path)) {
+        return digest->get_contents();
+    }
+    if (dados_->inf_nfe == nullptr) {
+        core::fatal_exit("Não foi possível obter o valor interno do infNFe na estrutura do documento fiscal");
+    }
+    return digest_of(dados_->xml, *dados_->inf_nfe);
+}
+
+xml::element documento_fiscal::get_xml() const
+{
+    return dados_->xml;
+}
+
+}  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao
