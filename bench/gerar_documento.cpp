@@ -1,10 +1,12 @@
-// Document generation of layout 4.00 from the fiscal model, as
-// documento_fiscal::from_nota_fiscal runs it: the builder fills the tree and
-// the writer makes the XML. A point-of-sale NFC-e of 5 items and a wholesale
-// NF-e of 100 items.
+// Document generation of layout 4.00 from the fiscal model: the builder fills
+// the tree and the writer makes the XML (gerar), each of them apart, and the
+// whole of documento_fiscal::from_nota_fiscal, which also reads the document
+// back (documento). A point-of-sale NFC-e of 5 items and a wholesale NF-e of
+// 100 items.
 #include <velk/erp/fiscal/nota_fiscal.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/escrever_layout_4_00.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/montar_layout_4_00.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <benchmark/benchmark.h>
 
@@ -68,18 +70,18 @@ produto item(int n, long preco_centavos, int quantidade)
         .set_indicador_item_compoe_valor_total(indicador_total::compoe)
         .set_valor_total_tributos(centavos(total * 30 / 100))
         .set_tributacao(std::move(icms))
-        .set_tributacao_pis_cofins(tributacao_pis_cofins()
-                                       .set_grupo_tributacao_pis(grupo_tributacao_pis_aliquota()
-                                                                     .set_cst_pis(cst_pis_cofins_aliquota::cst_01)
-                                                                     .set_valor_bc_pis(centavos(total))
-                                                                     .set_percentual_aliquota_pis(numero("1.65"))
-                                                                     .set_valor_pis(centavos(total * 165 / 10000)))
-                                       .set_grupo_tributacao_cofins(
-                                           grupo_tributacao_cofins_aliquota()
-                                               .set_cst_cofins(cst_pis_cofins_aliquota::cst_01)
-                                               .set_valor_bc_cofins(centavos(total))
-                                               .set_percentual_aliquota_cofins(numero("7.60"))
-                                               .set_valor_cofins(centavos(total * 760 / 10000))));
+        .set_tributacao_pis_cofins(
+            tributacao_pis_cofins()
+                .set_grupo_tributacao_pis(grupo_tributacao_pis_aliquota()
+                                              .set_cst_pis(cst_pis_cofins_aliquota::cst_01)
+                                              .set_valor_bc_pis(centavos(total))
+                                              .set_percentual_aliquota_pis(numero("1.65"))
+                                              .set_valor_pis(centavos(total * 165 / 10000)))
+                .set_grupo_tributacao_cofins(grupo_tributacao_cofins_aliquota()
+                                                 .set_cst_cofins(cst_pis_cofins_aliquota::cst_01)
+                                                 .set_valor_bc_cofins(centavos(total))
+                                                 .set_percentual_aliquota_cofins(numero("7.60"))
+                                                 .set_valor_cofins(centavos(total * 760 / 10000))));
 }
 
 nota_fiscal nota(int itens, char const* modelo)
@@ -94,8 +96,9 @@ nota_fiscal nota(int itens, char const* modelo)
     }
     bool const nfce = std::string(modelo) == "65";
     nota_fiscal resultado;
-    resultado.set_chave_44_digitos(nfce ? "35240912345678000195650010000000011102938476"
-                                        : "35240912345678000195550010000000021564738294")
+    resultado
+        .set_chave_44_digitos(nfce ? "35240912345678000195650010000000011102938476"
+                                   : "35240912345678000195550010000000021564738294")
         .set_codigo_nf(nfce ? 10293847 : 56473829)
         .set_natureza_operacao("VENDA")
         .set_modelo_emissao(modelo)
@@ -154,6 +157,24 @@ void gerar(benchmark::State& state, int itens, char const* modelo)
     state.SetItemsProcessed(state.iterations() * itens);
 }
 
+// The whole of documento_fiscal::from_nota_fiscal: the document is also read
+// back into its fields.
+void documento(benchmark::State& state, int itens, char const* modelo)
+{
+    using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+    nota_fiscal const entrada = nota(itens, modelo);
+    for (auto _ : state) {
+        velk::core::result::stack stack;
+        documento_fiscal gerado =
+            documento_fiscal::from_nota_fiscal(entrada, velk::erp::tarn::nfe::versao::versao_4_00, stack);
+        if (stack.has_failed()) {
+            state.SkipWithError(stack.to_string().c_str());
+            break;
+        }
+        benchmark::DoNotOptimize(gerado);
+    }
+}
+
 void montar(benchmark::State& state, int itens, char const* modelo)
 {
     nota_fiscal const entrada = nota(itens, modelo);
@@ -176,6 +197,8 @@ void escrever(benchmark::State& state, int itens, char const* modelo)
 
 BENCHMARK_CAPTURE(gerar, nfce_5_itens, 5, "65")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(gerar, nfe_100_itens, 100, "55")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(documento, nfce_5_itens, 5, "65")->Unit(benchmark::kMicrosecond);
+BENCHMARK_CAPTURE(documento, nfe_100_itens, 100, "55")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(montar, nfce_5_itens, 5, "65")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(escrever, nfce_5_itens, 5, "65")->Unit(benchmark::kMicrosecond);
 BENCHMARK_CAPTURE(montar, nfe_100_itens, 100, "55")->Unit(benchmark::kMicrosecond);
