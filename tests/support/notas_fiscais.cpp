@@ -1,7 +1,9 @@
 #include <support/notas_fiscais.hpp>
 
-#include <cstdlib>
+#include <support/partes_de_notas.hpp>
+
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 
 namespace velk::test {
@@ -25,69 +27,16 @@ core::datetime horario_brasilia(int ano, unsigned mes, unsigned dia, int hora, u
 
 namespace {
 
-// PIS and COFINS of a company of the Simples Nacional: collected in the
-// monthly payment, so "other operations" with zero values.
-tributacao_pis_cofins pis_cofins_simples_nacional()
+// A product of the bakery: Simples Nacional without credit.
+produto produto_nfce(char const* codigo, char const* gtin, char const* descricao, std::uint32_t ncm, std::uint16_t cfop,
+                     char const* unidade, char const* quantidade, char const* preco, char const* total,
+                     char const* tributos)
 {
-    return tributacao_pis_cofins()
-        .set_grupo_tributacao_pis(grupo_tributacao_pis_outros()
-                                      .set_cst_pis(cst_pis_cofins_outras_operacoes::cst_99)
-                                      .set_valor_bc_pis(valor("0.00"))
-                                      .set_percentual_aliquota_pis(valor("0.00"))
-                                      .set_valor_pis(valor("0.00")))
-        .set_grupo_tributacao_cofins(grupo_tributacao_cofins_outros()
-                                         .set_cst_cofins(cst_pis_cofins_outras_operacoes::cst_99)
-                                         .set_valor_bc_cofins(valor("0.00"))
-                                         .set_percentual_aliquota_cofins(valor("0.00"))
-                                         .set_valor_cofins(valor("0.00")));
-}
-
-// PIS and COFINS charged once, at the manufacturer or importer (medicines,
-// fuel): not charged on this sale.
-tributacao_pis_cofins pis_cofins_monofasico()
-{
-    return tributacao_pis_cofins()
-        .set_grupo_tributacao_pis(grupo_tributacao_pis_nt().set_cst_pis(cst_pis_cofins_nao_tributado::cst_04))
-        .set_grupo_tributacao_cofins(
-            grupo_tributacao_cofins_nt().set_cst_cofins(cst_pis_cofins_nao_tributado::cst_04));
-}
-
-grupo_tributacao_icms_102 simples_nacional_sem_credito()
-{
-    return grupo_tributacao_icms_102().set_origem_mercadoria(origem_mercadoria::nacional).set_csosn(csosn::csosn_102);
-}
-
-produto produto_nfce(std::string codigo, std::string gtin, std::string descricao, std::uint32_t ncm,
-                     std::uint16_t cfop, std::string unidade, char const* quantidade, char const* preco,
-                     char const* total, char const* tributos)
-{
-    return produto()
-        .set_codigo_produto(std::move(codigo))
-        .set_codigo_de_barras(gtin)
-        .set_descricao(std::move(descricao))
-        .set_ncm(ncm)
-        .set_cfop(cfop)
-        .set_unidade_comercial(unidade)
-        .set_quantidade_comercial(valor(quantidade))
-        .set_valor_unitario_comercial(valor(preco))
-        .set_valor_total_bruto(valor(total))
-        .set_codigo_de_barras_tributavel(std::move(gtin))
-        .set_unidade_tributavel(std::move(unidade))
-        .set_quantidade_tributavel(valor(quantidade))
-        .set_valor_unitario_tributavel(valor(preco))
-        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
+    return item(codigo, gtin, descricao, ncm, cfop, unidade, quantidade, preco, total)
         .set_valor_total_tributos(valor(tributos))
-        .set_tributacao(simples_nacional_sem_credito())
-        .set_tributacao_pis_cofins(pis_cofins_simples_nacional());
-}
-
-informacoes_responsavel_tecnico responsavel_tecnico()
-{
-    return informacoes_responsavel_tecnico()
-        .set_cnpj("19374562000123")
-        .set_nome_pessoa_contatada("Marina Okamoto")
-        .set_email("fiscal@velkerp.com.br")
-        .set_telefone("1140028922");
+        .set_tributacao(
+            grupo_tributacao_icms_102().set_origem_mercadoria(origem_mercadoria::nacional).set_csosn(csosn::csosn_102))
+        .set_tributacao_pis_cofins(pis_cofins_simples());
 }
 
 }  // namespace
@@ -113,10 +62,10 @@ nota_fiscal nota_nfce_simples()
                                  .set_regime_fiscal(regime_tributario::simples_nacional);
 
     // 2 x 18.90 + 0.350 kg x 16.90 (5.915, billed 5.92) + 9.49 = 53.21
-    produto cafe = produto_nfce("000123", "7891023450018", "CAFE TORRADO E MOIDO TRADICIONAL 500G", 9012100, 5102,
-                                "UN", "2", "18.90", "37.80", "7.49");
-    produto pao = produto_nfce("000001", "SEM GTIN", "PAO FRANCES", 19059090, 5102, "KG", "0.350", "16.90", "5.92",
-                               "0.98");
+    produto cafe = produto_nfce("000123", "7891023450018", "CAFE TORRADO E MOIDO TRADICIONAL 500G", 9012100, 5102, "UN",
+                                "2", "18.90", "37.80", "7.49");
+    produto pao =
+        produto_nfce("000001", "SEM GTIN", "PAO FRANCES", 19059090, 5102, "KG", "0.350", "16.90", "5.92", "0.98");
     produto refrigerante = produto_nfce("000457", "7894567002217", "REFRIGERANTE COLA PET 2L", 22021000, 5405, "UN",
                                         "1", "9.49", "9.49", "3.12");
     // Soft drinks bear ICMS by substitution, charged at the manufacturer.
@@ -177,18 +126,6 @@ tributacao_icms_uf_destino partilha_rio_de_janeiro(char const* base, char const*
         .set_valor_icms_uf_remetente(valor("0.00"));
 }
 
-grupo_tributacao_icms_00 icms_integral(origem_mercadoria origem, char const* base, char const* aliquota,
-                                       char const* icms)
-{
-    return grupo_tributacao_icms_00()
-        .set_origem_mercadoria(origem)
-        .set_cst(cst_icms::cst_00)
-        .set_modalidade_bc_icms(modalidade_bc_icms::valor_operacao)
-        .set_valor_bc_icms(valor(base))
-        .set_aliquota_icms(valor(aliquota))
-        .set_valor_icms(valor(icms));
-}
-
 produto dipirona()
 {
     return produto()
@@ -209,14 +146,14 @@ produto dipirona()
         .set_pedido_ordem_de_compra("4500012345")
         .set_codigo_do_produto_ordem_de_compra(10)
         .set_lista_informacoes_rastreabilidade({informacoes_rastreabilidade()
-                                                     .set_numero_lote("DP24051")
-                                                     .set_quantidade_de_produto_no_lote(valor("10"))
-                                                     .set_data_fabricacao(core::date(10, 3, 2024))
-                                                     .set_data_validade(core::date(9, 3, 2026))})
+                                                    .set_numero_lote("DP24051")
+                                                    .set_quantidade_de_produto_no_lote(valor("10"))
+                                                    .set_data_fabricacao(core::date(10, 3, 2024))
+                                                    .set_data_validade(core::date(9, 3, 2026))})
         .set_medicamentos(std::vector<medicamento>{
             medicamento().set_codigo_anvisa("1058300020015").set_preco_maximo_consumidor(valor("412.35"))})
-        .set_tributacao(icms_integral(origem_mercadoria::nacional, "1850.00", "12.00", "222.00"))
-        .set_tributacao_pis_cofins(pis_cofins_monofasico())
+        .set_tributacao(icms_00("1850.00", "12.00", "222.00", origem_mercadoria::nacional))
+        .set_tributacao_pis_cofins(pis_cofins_nao_tributado(cst_pis_cofins_nao_tributado::cst_04))
         .set_tributacao_icms_uf_destino(partilha_rio_de_janeiro("1850.00", "12.00", "37.00", "148.00"));
 }
 
@@ -255,19 +192,18 @@ produto oximetro_importado()
         .set_pedido_ordem_de_compra("4500012345")
         .set_codigo_do_produto_ordem_de_compra(20)
         // Imported goods travel between states at 4%.
-        .set_tributacao(icms_integral(origem_mercadoria::estrangeira_importacao_direta, "1245.00", "4.00", "49.80"))
-        .set_tributacao_pis_cofins(
-            tributacao_pis_cofins()
-                .set_grupo_tributacao_pis(grupo_tributacao_pis_aliquota()
-                                              .set_cst_pis(cst_pis_cofins_aliquota::cst_01)
-                                              .set_valor_bc_pis(valor("1245.00"))
-                                              .set_percentual_aliquota_pis(valor("1.65"))
-                                              .set_valor_pis(valor("20.54")))
-                .set_grupo_tributacao_cofins(grupo_tributacao_cofins_aliquota()
-                                                 .set_cst_cofins(cst_pis_cofins_aliquota::cst_01)
-                                                 .set_valor_bc_cofins(valor("1245.00"))
-                                                 .set_percentual_aliquota_cofins(valor("7.60"))
-                                                 .set_valor_cofins(valor("94.62"))))
+        .set_tributacao(icms_00("1245.00", "4.00", "49.80", origem_mercadoria::estrangeira_importacao_direta))
+        .set_tributacao_pis_cofins(tributacao_pis_cofins()
+                                       .set_grupo_tributacao_pis(grupo_tributacao_pis_aliquota()
+                                                                     .set_cst_pis(cst_pis_cofins_aliquota::cst_01)
+                                                                     .set_valor_bc_pis(valor("1245.00"))
+                                                                     .set_percentual_aliquota_pis(valor("1.65"))
+                                                                     .set_valor_pis(valor("20.54")))
+                                       .set_grupo_tributacao_cofins(grupo_tributacao_cofins_aliquota()
+                                                                        .set_cst_cofins(cst_pis_cofins_aliquota::cst_01)
+                                                                        .set_valor_bc_cofins(valor("1245.00"))
+                                                                        .set_percentual_aliquota_cofins(valor("7.60"))
+                                                                        .set_valor_cofins(valor("94.62"))))
         .set_tributacao_icms_uf_destino(partilha_rio_de_janeiro("1245.00", "4.00", "24.90", "199.20"));
 }
 
@@ -295,9 +231,9 @@ produto diesel()
                               .set_codigo_produto_anp(820101034)
                               .set_descricao_produto_anp("OLEO DIESEL B S10 - COMUM")
                               .set_uf_consumo("RJ"))
-        .set_tributacao(grupo_tributacao_icms_60().set_origem_mercadoria(origem_mercadoria::nacional).set_cst(
-            cst_icms::cst_60))
-        .set_tributacao_pis_cofins(pis_cofins_monofasico());
+        .set_tributacao(
+            grupo_tributacao_icms_60().set_origem_mercadoria(origem_mercadoria::nacional).set_cst(cst_icms::cst_60))
+        .set_tributacao_pis_cofins(pis_cofins_nao_tributado(cst_pis_cofins_nao_tributado::cst_04));
 }
 
 }  // namespace
@@ -321,6 +257,7 @@ nota_fiscal nota_nfe_completa()
                                                          .set_pais("Brasil"))
                                        .set_telefone("1932345678")
                                        .set_ie("244680170119")
+                                       .set_inscricao_municipal("1392817")
                                        .set_cnae(4644301)
                                        .set_regime_fiscal(regime_tributario::regime_normal);
 
@@ -341,15 +278,16 @@ nota_fiscal nota_nfe_completa()
                                       .set_indicador_de_ie(indicador_ie_destinatario::nao_contribuinte)
                                       .set_email("compras@hsantaluzia.com.br");
 
-    local_entrega const almoxarifado = local_entrega().set_cnpj("33587164000205").set_endereco(
-        endereco()
-            .set_logradouro("Rodovia Washington Luiz")
-            .set_numero_endereco("3300")
-            .set_complemento("Galpão 4")
-            .set_bairro("Jardim Primavera")
-            .set_ibge_municipio(3301702)
-            .set_nome_municipio("Duque de Caxias")
-            .set_uf("RJ"));
+    local_entrega const almoxarifado = local_entrega()
+                                           .set_cnpj("33587164000205")
+                                           .set_endereco(endereco()
+                                                             .set_logradouro("Rodovia Washington Luiz")
+                                                             .set_numero_endereco("3300")
+                                                             .set_complemento("Galpão 4")
+                                                             .set_bairro("Jardim Primavera")
+                                                             .set_ibge_municipio(3301702)
+                                                             .set_nome_municipio("Duque de Caxias")
+                                                             .set_uf("RJ"));
 
     total_nfe_icms const totais = total_nfe_icms()
                                       .set_total_base_normal(valor("3095.00"))
@@ -414,8 +352,8 @@ nota_fiscal nota_nfe_completa()
         .set_emitente(distribuidora)
         .set_destinatario(hospital)
         .set_local_entrega(almoxarifado)
-        .set_autorizacoes_acesso_xml({autorizacao_acesso_xml().set_cpf("28461935764"),
-                                      autorizacao_acesso_xml().set_cnpj("46291385000194")})
+        .set_autorizacoes_acesso_xml(
+            {autorizacao_acesso_xml().set_cpf("28461935764"), autorizacao_acesso_xml().set_cnpj("46291385000194")})
         .set_produtos({dipirona(), oximetro_importado(), diesel()})
         .set_total_nfe(total_nfe().set_total_icms(totais))
         .set_informacoes_transporte(transporte)

@@ -1,7 +1,8 @@
 #include "demo_steps.hpp"
 #include "demo_xml.hpp"
 
-#include <pki/certificate_authority.hpp>
+#include "demo_certificate.hpp"
+
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
@@ -66,12 +67,8 @@ void run_signature_step(demo_context& context)
     std::string const digest = document.get_digest_value();
     demo_context::say("  digest of infNFe before signing: " + digest);
 
-    tools::pki::certificate_authority const authority("Velk Demo CA");
-    std::string const password = "demo";
-    core::byte_array const bundle =
-        authority.issue_client("EMPRESA DEMONSTRACAO LTDA:12345678000195").to_pkcs12(password);
     core::result::stack stack;
-    cryptography::pkcs12 const certificate = cryptography::pkcs12::from_byte_array(bundle, password, stack);
+    cryptography::pkcs12 const certificate = make_demo_certificate(stack);
     check(stack, "certificate");
 
     document.assinar(certificate, stack);

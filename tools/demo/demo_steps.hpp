@@ -14,5 +14,7 @@ void run_queries_step(demo_context& context);
 void run_qrcode_step(demo_context& context);
 // A status query through the local SEFAZ simulator, over mutual TLS.
 void run_status_step(demo_context& context);
+// An NFC-e and an NF-e of layout 4.00 generated from fiscal models and signed.
+void run_generation_step(demo_context& context);
 
 }  // namespace velk::demo

@@ -1,14 +1,20 @@
 // The notes of the test corpus are what a real issuer sends: these checks keep
-// them so as they change.
+// them so as they change: check digits, the parts of the key, and totals that
+// add up.
 
+#include <support/corpus_notas.hpp>
 #include <support/notas_fiscais.hpp>
 #include <velk/erp/cnpj.hpp>
 #include <velk/erp/cpf.hpp>
+#include <velk/erp/estado.hpp>
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
+#include <set>
 #include <string>
+#include <type_traits>
+#include <variant>
 #include <vector>
 
 namespace {
@@ -60,31 +66,31 @@ std::string chave_esperada(nota_fiscal const& nota)
 {
     char texto[64];
     auto const emissao = nota.get_data_emissao().get_date();
-    std::snprintf(texto, sizeof texto, "%02u%02u%s%s%03u%09u%u%08u", emissao.get_year() % 100,
-                  emissao.get_month(), nota.get_emitente().get_cnpj().value().c_str(),
-                  nota.get_modelo_emissao().c_str(), static_cast<unsigned>(std::stoul(nota.get_serie())),
-                  nota.get_numero(), static_cast<unsigned>(nota.get_tipo_emissao()) + 1, nota.get_codigo_nf());
+    std::snprintf(texto, sizeof texto, "%02u%02u%s%s%03u%09u%u%08u", emissao.get_year() % 100, emissao.get_month(),
+                  nota.get_emitente().get_cnpj().value().c_str(), nota.get_modelo_emissao().c_str(),
+                  static_cast<unsigned>(std::stoul(nota.get_serie())), nota.get_numero(),
+                  static_cast<unsigned>(nota.get_tipo_emissao()) + 1, nota.get_codigo_nf());
     return texto;
 }
 
-void verificar(nota_fiscal const& nota)
+decimal ou_zero(velk::core::optional<decimal> const& valor)
 {
-    std::string const chave = nota.get_chave_44_digitos();
-    EXPECT_TRUE(chave_valida(chave)) << chave;
-    EXPECT_EQ(chave.substr(0, 2), "35") << "issued in São Paulo";
-    EXPECT_EQ(chave.substr(2, 41), chave_esperada(nota));
+    return valor.value_or(decimal());
+}
 
+void verificar_documentos(nota_fiscal const& nota)
+{
     EXPECT_TRUE(cnpj_valido(nota.get_emitente().get_cnpj().value()));
     if (auto const destinatario = nota.get_destinatario()) {
         EXPECT_TRUE(cnpj_valido(destinatario->get_cnpj().value_or("")) ||
-                    cpf_valido(destinatario->get_cpf().value_or("")));
+                    cpf_valido(destinatario->get_cpf().value_or("")) ||
+                    destinatario->get_indicador_estrangeiro().has_value());
     }
     if (auto const entrega = nota.get_local_entrega()) {
         EXPECT_TRUE(cnpj_valido(entrega->get_cnpj().value_or("")));
     }
     for (autorizacao_acesso_xml const& autorizacao : nota.get_autorizacoes_acesso_xml()) {
-        EXPECT_TRUE(cnpj_valido(autorizacao.get_cnpj().value_or("")) ||
-                    cpf_valido(autorizacao.get_cpf().value_or("")));
+        EXPECT_TRUE(cnpj_valido(autorizacao.get_cnpj().value_or("")) || cpf_valido(autorizacao.get_cpf().value_or("")));
     }
     for (nf_referenciada const& referencia : nota.get_nf_referenciadas()) {
         EXPECT_TRUE(cnpj_valido(referencia.get_cnpj()));
@@ -95,37 +101,106 @@ void verificar(nota_fiscal const& nota)
     if (auto const responsavel = nota.get_informacoes_responsavel_tecnico()) {
         EXPECT_TRUE(cnpj_valido(responsavel->get_cnpj()));
     }
+    if (auto const intermediador = nota.get_informacoes_intermediador()) {
+        EXPECT_TRUE(velk::erp::cnpj::check_digits_match(intermediador->get_cnpj()));
+    }
+    if (auto const transportador = nota.get_informacoes_transporte().get_transportador();
+        transportador && transportador->get_documento()) {
+        velk::core::visit(
+            [](auto const& documento) {
+                EXPECT_TRUE(std::decay_t<decltype(documento)>::check_digits_match(documento.to_number()));
+            },
+            *transportador->get_documento());
+    }
+    for (detalhes_pagamento const& pagamento : nota.get_informacoes_pagamento().get_detalhes_pagamento()) {
+        if (auto const tef = pagamento.get_transacao_tef(); tef && tef->get_cnpj()) {
+            EXPECT_TRUE(cnpj_valido(*tef->get_cnpj()));
+        }
+    }
+}
 
+// Goods add up to vProd, services to vServ, and the note to what was paid.
+void verificar_totais(nota_fiscal const& nota)
+{
     decimal soma_produtos;
+    decimal soma_servicos;
     for (produto const& item : nota.get_produtos()) {
         EXPECT_TRUE(gtin_valido(item.get_codigo_de_barras())) << item.get_codigo_de_barras();
-        soma_produtos = soma_produtos + item.get_valor_total_bruto();
+        bool const servico = std::holds_alternative<issqn>(item.get_tributacao().base());
+        (servico ? soma_servicos : soma_produtos) =
+            (servico ? soma_servicos : soma_produtos) + item.get_valor_total_bruto();
     }
-    total_nfe_icms const totais = nota.get_total_nfe().get_total_icms();
-    EXPECT_EQ(soma_produtos, totais.get_valor_total_dos_produtos_da_nota());
-    EXPECT_EQ(totais.get_total_da_nota(), totais.get_valor_total_dos_produtos_da_nota()) << "no freight nor discount";
+    total_nfe const total = nota.get_total_nfe();
+    total_nfe_icms const icms = total.get_total_icms();
+    EXPECT_EQ(soma_produtos, icms.get_valor_total_dos_produtos_da_nota());
+    decimal const servicos =
+        total.get_total_issqn() ? ou_zero(total.get_total_issqn()->get_valor_servico()) : decimal();
+    EXPECT_EQ(soma_servicos, servicos);
+    // vNF = vProd - vDesc + vST + vFCPST + vFrete + vSeg + vOutro + vII + vIPI + vIPIDevol + vServ
+    EXPECT_EQ(icms.get_total_da_nota() + icms.get_valor_total_do_desconto_da_nota(),
+              icms.get_valor_total_dos_produtos_da_nota() + icms.get_total_retido() + icms.get_total_fcp_retido() +
+                  icms.get_total_frete() + icms.get_total_seguro() + icms.get_total_despesas_acessorias() +
+                  icms.get_total_imposto_de_importacao() + icms.get_total_ipi() + icms.get_total_ipi_devolvido() +
+                  servicos);
 
     decimal pago;
+    bool sem_pagamento = false;
     for (detalhes_pagamento const& pagamento : nota.get_informacoes_pagamento().get_detalhes_pagamento()) {
         pago = pago + pagamento.get_valor_pagamento();
+        sem_pagamento = sem_pagamento || pagamento.get_meio_pagamento() == meio_pagamento::sem_pagamento;
     }
-    decimal const troco = nota.get_informacoes_pagamento().get_valor_total_troco().value_or(decimal());
-    EXPECT_EQ(pago, totais.get_total_da_nota() + troco);
+    decimal const troco = ou_zero(nota.get_informacoes_pagamento().get_valor_total_troco());
+    EXPECT_EQ(pago, sem_pagamento ? decimal() : icms.get_total_da_nota() + troco);
+
+    if (auto const cobranca = nota.get_cobranca()) {
+        decimal parcelas;
+        for (duplicata const& parcela : cobranca->get_duplicatas()) {
+            parcelas = parcelas + parcela.get_valor_duplicata();
+        }
+        EXPECT_EQ(parcelas, ou_zero(cobranca->get_valor_liquido()));
+    }
 }
 
-TEST(notas_de_teste, the_nfce_is_consistent)
+class corpus_de_notas : public testing::TestWithParam<velk::test::nota_do_corpus> {};
+
+TEST_P(corpus_de_notas, is_what_a_real_issuer_sends)
 {
-    verificar(velk::test::nota_nfce_simples());
+    nota_fiscal const nota = GetParam().criar();
+    std::string const chave = nota.get_chave_44_digitos();
+    EXPECT_TRUE(chave_valida(chave)) << chave;
+    velk::erp::estado uf{};
+    ASSERT_TRUE(velk::erp::estado_from_text(nota.get_emitente().get_endereco().get_uf(), uf));
+    EXPECT_EQ(std::stoul(chave.substr(0, 2)), velk::erp::get_codigo_ibge(uf)) << "the issuer's state";
+    EXPECT_EQ(chave.substr(2, 41), chave_esperada(nota));
+    verificar_documentos(nota);
+    verificar_totais(nota);
 }
 
-TEST(notas_de_teste, the_nfe_is_consistent)
+std::string nome_da_nota(testing::TestParamInfo<velk::test::nota_do_corpus> const& info)
 {
-    nota_fiscal const nota = velk::test::nota_nfe_completa();
-    verificar(nota);
-    auto const transportador = nota.get_informacoes_transporte().get_transportador();
-    ASSERT_TRUE(transportador && transportador->get_documento());
-    EXPECT_TRUE(velk::erp::cnpj::check_digits_match(
-        std::get<velk::erp::cnpj>(transportador->get_documento()->base()).to_number()));
+    return info.param.nome;
+}
+
+INSTANTIATE_TEST_SUITE_P(notas, corpus_de_notas, testing::ValuesIn(velk::test::corpus_notas()), nome_da_nota);
+
+TEST(corpus_de_notas, covers_five_states_both_models_and_every_icms_class)
+{
+    std::set<std::string> estados;
+    std::set<std::string> modelos;
+    std::set<std::size_t> classes;
+    for (auto const& entrada : velk::test::corpus_notas()) {
+        nota_fiscal const nota = entrada.criar();
+        estados.insert(nota.get_emitente().get_endereco().get_uf());
+        modelos.insert(nota.get_modelo_emissao());
+        for (produto const& item : nota.get_produtos()) {
+            if (auto const icms = item.get_grupo_tributacao_icms()) {
+                classes.insert(icms->index());
+            }
+        }
+    }
+    EXPECT_EQ(estados, (std::set<std::string>{"PR", "RJ", "RS", "SC", "SP"}));
+    EXPECT_EQ(modelos, (std::set<std::string>{"55", "65"}));
+    EXPECT_EQ(classes.size(), std::variant_size_v<std::remove_cvref_t<decltype(grupo_tributacao_icms().base())>>);
 }
 
 }  // namespace

@@ -37,7 +37,7 @@ bool escrever_especifico(xml::element& prod, grupo::nRECOPI const& recopi, core:
     return txt(prod, "nRECOPI", recopi.valor, stack);
 }
 
-bool escrever_especifico(xml::element& prod, core::optional<grupo::produto_especifico> const& especifico,
+bool escrever_especifico(xml::element& prod, core::optional<grupo::tipo_produto> const& especifico,
                          core::result::stack& stack)
 {
     return !especifico ||

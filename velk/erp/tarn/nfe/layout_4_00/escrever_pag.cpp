@@ -1,5 +1,4 @@
-// Payments, for now: tPag and vPag of each payment, and vTroco. indPag, xPag
-// and card come with the closing groups, which replace this file.
+// Payments: each one with its means and card transaction, then the change.
 
 #include <velk/erp/tarn/nfe/layout_4_00/escrita.hpp>
 
@@ -19,7 +18,18 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::pag const& pag, 
 bool escrever(xml::element& pai, std::string const& tag, grupo::detPag const& det_pag, core::result::stack& stack)
 {
     xml::element e(tag);
-    bool const escrito = u(e, "tPag", det_pag.tPag, stack, 2) && d(e, "vPag", det_pag.vPag, stack, 2);
+    bool const escrito = u(e, "indPag", det_pag.indPag, stack, 0) && u(e, "tPag", det_pag.tPag, stack, 2) &&
+                         txt(e, "xPag", det_pag.xPag, stack) && d(e, "vPag", det_pag.vPag, stack, 2) &&
+                         escrever(e, "card", det_pag.card, stack);
+    return anexar(pai, std::move(e), escrito);
+}
+
+// The processor's CNPJ is written as the text the model holds.
+bool escrever(xml::element& pai, std::string const& tag, grupo::card const& card, core::result::stack& stack)
+{
+    xml::element e(tag);
+    bool const escrito = u(e, "tpIntegra", card.tpIntegra, stack, 1) && txt(e, "CNPJ", card.CNPJ, stack) &&
+                         u(e, "tBand", card.tBand, stack, 2) && txt(e, "cAut", card.cAut, stack);
     return anexar(pai, std::move(e), escrito);
 }
 

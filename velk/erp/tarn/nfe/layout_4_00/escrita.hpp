@@ -49,18 +49,48 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::impostoDevol con
               core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::IPIDevol const& ipi, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::imposto const& imposto, core::result::stack& stack);
+// The element ICMS with the group of the alternative it holds.
+bool escrever(xml::element& pai, std::string const& tag, grupo::ICMS const& icms, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQN const& issqn, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::IPI const& ipi, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::II const& ii, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::PIS const& pis, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::PISST const& pisst, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::COFINS const& cofins, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::COFINSST const& cofinsst, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::ICMSUFDest const& icms_uf_dest,
+              core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::total const& total, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::ICMSTot const& icms_tot, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQNtot const& issqn_tot, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::retTrib const& ret_trib, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::transp const& transp, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::transporta const& transporta,
+              core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::retTransp const& ret_transp,
+              core::result::stack& stack);
+// veicTransp and each reboque.
+bool escrever(xml::element& pai, std::string const& tag, grupo::veicTransp const& veiculo, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::vol const& vol, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::lacres const& lacres, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::cobr const& cobr, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::fat const& fat, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::dup const& dup, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::pag const& pag, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::detPag const& det_pag, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::card const& card, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::infIntermed const& infIntermed,
               core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::infAdic const& infAdic, core::result::stack& stack);
+// An entry of obsCont or obsFisco.
+bool escrever(xml::element& pai, std::string const& tag, grupo::observacao const& observacao,
+              core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::procRef const& procRef, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::exporta const& exporta, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::compra const& compra, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::cana const& cana, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::forDia const& forDia, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string const& tag, grupo::deduc const& deduc, core::result::stack& stack);
 bool escrever(xml::element& pai, std::string const& tag, grupo::infRespTec const& infRespTec,
               core::result::stack& stack);
 

@@ -30,9 +30,14 @@ bool montar_autXML(fiscal::autorizacao_acesso_xml const& autorizacao, grupo::cpf
 bool montar_det(fiscal::produto const& produto, grupo::det& det, core::result::stack& stack);
 bool montar_prod(fiscal::produto const& produto, grupo::prod& prod, core::result::stack& stack);
 bool montar_imposto(fiscal::produto const& produto, grupo::imposto& imposto, core::result::stack& stack);
-bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core::result::stack& stack);
-bool montar_transp(fiscal::informacoes_transporte const& transporte, grupo::transp& transp,
+bool montar_ICMS(fiscal::grupo_tributacao_icms const& tributacao, grupo::ICMS& icms, core::result::stack& stack);
+bool montar_IPI(fiscal::produto const& produto, fiscal::tributacao_ipi const& tributacao, grupo::IPI& ipi,
+                core::result::stack& stack);
+bool montar_PIS(fiscal::grupo_tributacao_pis const& tributacao, grupo::PIS& pis, core::result::stack& stack);
+bool montar_COFINS(fiscal::grupo_tributacao_cofins const& tributacao, grupo::COFINS& cofins,
                    core::result::stack& stack);
+bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core::result::stack& stack);
+bool montar_transp(fiscal::informacoes_transporte const& transporte, grupo::transp& transp, core::result::stack& stack);
 bool montar_cobr(fiscal::cobranca const& cobranca, grupo::cobr& cobr, core::result::stack& stack);
 bool montar_pag(fiscal::informacoes_pagamento const& pagamento, grupo::pag& pag, core::result::stack& stack);
 bool montar_infIntermed(fiscal::informacoes_intermediador const& intermediador, grupo::infIntermed& infIntermed,
@@ -50,6 +55,37 @@ bool recusar(core::result::stack& stack, Detalhe&&... detalhe)
 {
     core::result::chain<processar_nota_result_category, Codigo>(stack, std::forward<Detalhe>(detalhe)...);
     return false;
+}
+
+// A value the layout requires and the model may leave absent. When absent it
+// is refused with code `Codigo` and the sentence that names the tag; the
+// missing bases (47) and tax values (55) of ICMS go through their own helpers,
+// which report on a fresh stack.
+template <int Codigo>
+bool exigir(core::optional<core::decimal> const& valor, core::decimal& destino, char const* argumento,
+            core::result::stack& stack)
+{
+    if (valor) {
+        destino = *valor;
+        return true;
+    }
+    if constexpr (Codigo == 47) {
+        obrigatorio_base(stack, argumento);
+    } else if constexpr (Codigo == 55) {
+        obrigatorio_valor(stack, argumento);
+    } else {
+        core::result::chain<processar_nota_result_category, Codigo>(stack, std::string(argumento));
+    }
+    return false;
+}
+
+// A value the layout writes even when the model leaves it absent: then the
+// record keeps its default, zero.
+inline void aberto(core::optional<core::decimal> const& valor, core::decimal& destino)
+{
+    if (valor) {
+        destino = *valor;
+    }
 }
 
 // An enumeration of the model through the table of its codes in the layout,

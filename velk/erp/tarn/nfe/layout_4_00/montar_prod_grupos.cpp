@@ -119,7 +119,7 @@ grupo::rastro montar_rastro(fiscal::informacoes_rastreabilidade const& lote)
                          lote.data_validade(), lote.codigo_agregacao()};
 }
 
-bool montar_especifico(fiscal::produto const& produto, core::optional<grupo::produto_especifico>& especifico,
+bool montar_especifico(fiscal::produto const& produto, core::optional<grupo::tipo_produto>& especifico,
                        core::result::stack& stack)
 {
     if (auto const medicamentos = produto.get_medicamentos()) {

@@ -8,7 +8,7 @@
 #include <velk/erp/fiscal/produto.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/grupo/DI.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/grupo/detExport.hpp>
-#include <velk/erp/tarn/nfe/layout_4_00/grupo/produto_especifico.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/tipo_produto.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/grupo/rastro.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
@@ -21,7 +21,7 @@ grupo::detExport montar_detExport(fiscal::grupo_exportacao const& exportacao);
 grupo::rastro montar_rastro(fiscal::informacoes_rastreabilidade const& lote);
 
 // Medicines, then firearms, then fuel: a later kind replaces an earlier one.
-bool montar_especifico(fiscal::produto const& produto, core::optional<grupo::produto_especifico>& especifico,
+bool montar_especifico(fiscal::produto const& produto, core::optional<grupo::tipo_produto>& especifico,
                        core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

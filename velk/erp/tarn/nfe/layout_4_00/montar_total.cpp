@@ -1,9 +1,42 @@
-// The totals of the note, for now: ICMSTot only. ISSQNtot and retTrib come
-// with the closing groups, which replace this file.
+// The totals of the note, as the model gives them: nothing is added up here.
 
 #include <velk/erp/tarn/nfe/layout_4_00/montagem.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
+
+namespace {
+
+grupo::ISSQNtot montar_ISSQNtot(fiscal::total_nfe_issqn const& issqn)
+{
+    grupo::ISSQNtot tot;
+    tot.vServ = issqn.get_valor_servico();
+    tot.vBC = issqn.get_valor_base_calculo();
+    tot.vISS = issqn.get_valor_iss();
+    tot.vPIS = issqn.get_valor_pis();
+    tot.vCOFINS = issqn.get_valor_cofins();
+    tot.dCompet = issqn.get_data_prestacao_servico();
+    tot.vDeducao = issqn.get_valor_deducao();
+    tot.vOutro = issqn.get_valor_outras_retencoes();
+    tot.vDescIncond = issqn.get_valor_desconto_incondicionado();
+    tot.vDescCond = issqn.get_valor_desconto_condicionado();
+    tot.vISSRet = issqn.get_valor_iss_retido();
+    // The code of the special regime is the layout's already.
+    tot.cRegTrib = issqn.get_codigo_regime_tributacao();
+    return tot;
+}
+
+grupo::retTrib montar_retTrib(fiscal::total_nfe_retencao_tributos const& retencao)
+{
+    return grupo::retTrib{retencao.get_valor_pis_retido(),
+                          retencao.get_valor_cofins_retido(),
+                          retencao.get_valor_csll_retido(),
+                          retencao.get_valor_base_calculo_irrf(),
+                          retencao.get_valor_irrf(),
+                          retencao.get_valor_bc_retencao_previdencia(),
+                          retencao.get_valor_retencao_previdencia()};
+}
+
+}  // namespace
 
 bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core::result::stack&)
 {
@@ -32,6 +65,12 @@ bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core:
     tot.vOutro = icms.get_total_despesas_acessorias();
     tot.vNF = icms.get_total_da_nota();
     tot.vTotTrib = icms.get_total_dos_tributos_do_item();
+    if (auto const issqn = total_nfe.get_total_issqn()) {
+        total.ISSQNtot = montar_ISSQNtot(*issqn);
+    }
+    if (auto const retencao = total_nfe.get_total_nfe_retencao_tributos()) {
+        total.retTrib = montar_retTrib(*retencao);
+    }
     return true;
 }
 

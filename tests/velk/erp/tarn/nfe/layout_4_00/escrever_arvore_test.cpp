@@ -90,14 +90,13 @@ TEST(escrever_arvore, a_new_vehicle_is_written_in_the_order_of_its_group)
     veiculo.tpRest = 0;
     arvore.det[0].prod.especifico = veiculo;
     std::string const det = escrito(arvore, "det");
-    EXPECT_EQ(det.substr(det.find("<veicProd>")),
+    EXPECT_EQ(det.substr(det.find("<veicProd>"), det.find("<imposto>") - det.find("<veicProd>")),
               "<veicProd><tpOp>1</tpOp><chassi>9BWZZZ377VT004251</chassi><cCor>01</cCor><xCor>BRANCO</xCor>"
               "<pot>116</pot><cilin>1598</cilin><pesoL>1085.0000</pesoL><pesoB>1110.5000</pesoB>"
               "<nSerie>004251</nSerie><tpComb>16</tpComb><nMotor>CWS123456</nMotor><CMT>1.5000</CMT>"
               "<dist>2470</dist><anoMod>2025</anoMod><anoFab>2024</anoFab><tpPint>S</tpPint><tpVeic>6</tpVeic>"
               "<espVeic>1</espVeic><VIN>N</VIN><condVeic>1</condVeic><cMod>123456</cMod>"
-              "<cCorDENATRAN>11</cCorDENATRAN><lota>5</lota><tpRest>0</tpRest></veicProd></prod>"
-              "<imposto><vTotTrib>7.49</vTotTrib></imposto></det>");
+              "<cCorDENATRAN>11</cCorDENATRAN><lota>5</lota><tpRest>0</tpRest></veicProd></prod>");
 }
 
 TEST(escrever_arvore, writes_the_alternatives_that_only_other_sources_choose)

@@ -102,17 +102,22 @@ TEST(escrever_layout_4_00, writes_items_numbered_from_one_with_their_special_gro
               "<vUnTrib>185.0000000000</vUnTrib><indTot>1</indTot><xPed>4500012345</xPed><nItemPed>10</nItemPed>"
               "<rastro><nLote>DP24051</nLote><qLote>10.000</qLote><dFab>2024-03-10</dFab><dVal>2026-03-09</dVal>"
               "</rastro><med><cProdANVISA>1058300020015</cProdANVISA><vPMC>412.35</vPMC></med></prod>"
-              "<imposto/></det>");
-    EXPECT_EQ(det[1].substr(det[1].find("<indTot>")),
+              "<imposto><ICMS><ICMS00><orig>0</orig><CST>00</CST><modBC>3</modBC><vBC>1850.00</vBC>"
+              "<pICMS>12.0000</pICMS><vICMS>222.00</vICMS></ICMS00></ICMS><PIS><PISNT><CST>04</CST></PISNT></PIS>"
+              "<COFINS><COFINSNT><CST>04</CST></COFINSNT></COFINS><ICMSUFDest><vBCUFDest>1850.00</vBCUFDest>"
+              "<vBCFCPUFDest>1850.00</vBCFCPUFDest><pFCPUFDest>2.0000</pFCPUFDest><pICMSUFDest>20.0000</pICMSUFDest>"
+              "<pICMSInter>12.00</pICMSInter><pICMSInterPart>100.0000</pICMSInterPart><vFCPUFDest>37.00</vFCPUFDest>"
+              "<vICMSUFDest>148.00</vICMSUFDest><vICMSUFRemet>0.00</vICMSUFRemet></ICMSUFDest></imposto></det>");
+    EXPECT_EQ(det[1].substr(det[1].find("<indTot>"), det[1].find("<imposto>") - det[1].find("<indTot>")),
               "<indTot>1</indTot><DI><nDI>2408731562</nDI><dDI>2024-04-02</dDI><xLocDesemb>PORTO DE SANTOS"
               "</xLocDesemb><UFDesemb>SP</UFDesemb><dDesemb>2024-04-05</dDesemb><tpViaTransp>1</tpViaTransp>"
               "<vAFRMM>125.40</vAFRMM><tpIntermedio>1</tpIntermedio><cExportador>SZMED0042</cExportador><adi>"
               "<nAdicao>1</nAdicao><nSeqAdic>1</nSeqAdic><cFabricante>SZMED0042</cFabricante></adi></DI>"
-              "<xPed>4500012345</xPed><nItemPed>20</nItemPed></prod><imposto/></det>");
+              "<xPed>4500012345</xPed><nItemPed>20</nItemPed></prod>");
     EXPECT_EQ(det[2].substr(0, 21), "<det nItem=\"3\"><prod>");
-    EXPECT_EQ(det[2].substr(det[2].find("<comb>")),
+    EXPECT_EQ(det[2].substr(det[2].find("<comb>"), det[2].find("<imposto>") - det[2].find("<comb>")),
               "<comb><cProdANP>820101034</cProdANP><descANP>OLEO DIESEL B S10 - COMUM</descANP>"
-              "<UFCons>RJ</UFCons></comb></prod><imposto/></det>");
+              "<UFCons>RJ</UFCons></comb></prod>");
 }
 
 TEST(escrever_layout_4_00, writes_a_whole_fuel_group_with_glp_cide_and_pump_readings)
@@ -142,13 +147,12 @@ TEST(escrever_layout_4_00, writes_a_whole_fuel_group_with_glp_cide_and_pump_read
                                                    .set_valor_final(valor("1515.5"))));
     nota.set_produtos(produtos);
     std::string const det = grupos(documento_de(nota), "det").at(0);
-    EXPECT_EQ(det.substr(det.find("<comb>")),
+    EXPECT_EQ(det.substr(det.find("<comb>"), det.find("<imposto>") - det.find("<comb>")),
               "<comb><cProdANP>210203001</cProdANP><descANP>GLP</descANP><pGLP>60.0000</pGLP><pGNn>30.5000</pGNn>"
               "<pGNi>9.5000</pGNi><vPart>7.30</vPart><CODIF>123</CODIF><qTemp>13.0000</qTemp><UFCons>SP</UFCons>"
               "<CIDE><qBCProd>13.0000</qBCProd><vAliqProd>0.1000</vAliqProd><vCIDE>1.30</vCIDE></CIDE>"
               "<encerrante><nBico>3</nBico><nTanque>1</nTanque><vEncIni>1502.500</vEncIni>"
-              "<vEncFin>1515.500</vEncFin></encerrante></comb></prod><imposto><vTotTrib>7.49</vTotTrib></imposto>"
-              "</det>");
+              "<vEncFin>1515.500</vEncFin></encerrante></comb></prod>");
 }
 
 TEST(escrever_layout_4_00, a_note_without_products_has_no_item)

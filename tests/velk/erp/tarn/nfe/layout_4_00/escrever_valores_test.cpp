@@ -252,6 +252,549 @@ std::vector<escrita> const escritas = {
      "det", "infAdProd", "<infAdProd>Uso exclusivo hospitalar</infAdProd>"},
 };
 
+// The taxes and closing groups.
+
+void tributar(nota_fiscal& nota, tributacao_produto tributacao)
+{
+    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao(std::move(tributacao)); });
+}
+
+template <class Grupo>
+Grupo origem_nacional(Grupo grupo)
+{
+    grupo.set_origem_mercadoria(origem_mercadoria::nacional);
+    return grupo;
+}
+
+grupo_icms_desonerado desonerado(motivo_desoneracao_icms motivo)
+{
+    return grupo_icms_desonerado().set_valor_icms_desonerado(valor("5")).set_motivo(motivo);
+}
+
+tributacao_st_icms_90 st_90()
+{
+    return tributacao_st_icms_90()
+        .set_modalidade_bc_icms_st(modalidade_bc_icms_st::pauta)
+        .set_valor_bc_icms_st(valor("140"))
+        .set_aliquota_icms_st(valor("18"))
+        .set_valor_icms_st(valor("7.2"))
+        .set_fcp_st_retido(grupo_fcp_st_retido().set_valor_bc(valor("140")).set_percentual(valor("2")).set_valor(
+            valor("2.8")));
+}
+
+void com_ipi(nota_fiscal& nota, tributacao_ipi ipi)
+{
+    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao_ipi(std::move(ipi)); });
+}
+
+void com_pis_cofins(nota_fiscal& nota, tributacao_pis_cofins tributacao)
+{
+    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao_pis_cofins(std::move(tributacao)); });
+}
+
+template <class Alterar>
+void no_transporte(nota_fiscal& nota, Alterar alterar)
+{
+    informacoes_transporte parte = nota.get_informacoes_transporte();
+    alterar(parte);
+    nota.set_informacoes_transporte(parte);
+}
+
+void pago_com(nota_fiscal& nota, detalhes_pagamento pagamento)
+{
+    nota.set_informacoes_pagamento(
+        informacoes_pagamento().set_detalhes_pagamento({pagamento.set_valor_pagamento(valor("6189.5"))}));
+}
+
+std::vector<escrita> const escritas_impostos = {
+    // ICMS
+    {"ICMS00 leaves out the base of its fund",
+     [](nota_fiscal& n) {
+         no_primeiro_produto(n, [](produto& p) {
+             auto icms = std::get<grupo_tributacao_icms_00>(p.get_grupo_tributacao_icms()->base());
+             p.set_tributacao(icms.set_fcp(
+                 grupo_fcp().set_valor_bc(valor("1850")).set_percentual(valor("2")).set_valor(valor("37"))));
+         });
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS00><orig>0</orig><CST>00</CST><modBC>3</modBC><vBC>1850.00</vBC><pICMS>12.0000</pICMS>"
+     "<vICMS>222.00</vICMS><pFCP>2.0000</pFCP><vFCP>37.00</vFCP></ICMS00></ICMS>"},
+    {"ICMS10 writes every tag of its funds",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_10())
+                         .set_cst(cst_icms::cst_10)
+                         .set_modalidade_bc_icms(modalidade_bc_icms::pauta)
+                         .set_valor_bc_icms(valor("100"))
+                         .set_aliquota_icms(valor("18"))
+                         .set_valor_icms(valor("18"))
+                         .set_fcp(grupo_fcp().set_valor_bc(valor("100")).set_percentual(valor("2")).set_valor(
+                             valor("2")))
+                         .set_modalidade_bc_icms_st(modalidade_bc_icms_st::lista_neutra)
+                         .set_percentual_margem_valor_adicionado_icms_st(valor("40"))
+                         .set_percentual_reducao_bc_icms_st(valor("10"))
+                         .set_valor_bc_icms_st(valor("126"))
+                         .set_aliquota_icms_st(valor("18"))
+                         .set_valor_icms_st(valor("4.68"))
+                         .set_fcp_st_retido(grupo_fcp_st_retido()
+                                                .set_valor_bc(valor("126"))
+                                                .set_percentual(valor("2"))
+                                                .set_valor(valor("2.52"))));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS10><orig>0</orig><CST>10</CST><modBC>1</modBC><vBC>100.00</vBC><pICMS>18.0000</pICMS>"
+     "<vICMS>18.00</vICMS><vBCFCP>100.00</vBCFCP><pFCP>2.0000</pFCP><vFCP>2.00</vFCP><modBCST>3</modBCST>"
+     "<pMVAST>40.0000</pMVAST><pRedBCST>10.0000</pRedBCST><vBCST>126.00</vBCST><pICMSST>18.0000</pICMSST>"
+     "<vICMSST>4.68</vICMSST><vBCFCPST>126.00</vBCFCPST><pFCPST>2.0000</pFCPST><vFCPST>2.52</vFCPST></ICMS10>"
+     "</ICMS>"},
+    {"the class chooses the group, not the CST",
+     [](nota_fiscal& n) {
+         no_primeiro_produto(n, [](produto& p) {
+             auto icms = std::get<grupo_tributacao_icms_00>(p.get_grupo_tributacao_icms()->base());
+             p.set_tributacao(icms.set_cst(cst_icms::cst_41));
+         });
+     },
+     "det", "ICMS00", "<ICMS00><orig>0</orig><CST>41</CST><modBC>3</modBC><vBC>1850.00</vBC><pICMS>12.0000</pICMS>"
+                      "<vICMS>222.00</vICMS></ICMS00>"},
+    {"ICMS20 with relief for reason 9",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_20())
+                         .set_cst(cst_icms::cst_20)
+                         .set_percentual_reducao_bc_icms(valor("33.33"))
+                         .set_valor_bc_icms(valor("66.67"))
+                         .set_aliquota_icms(valor("18"))
+                         .set_valor_icms(valor("12"))
+                         .set_grupo_icms_desonerado(desonerado(motivo_desoneracao_icms::outros)));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS20><orig>0</orig><CST>20</CST><modBC>0</modBC><pRedBC>33.3300</pRedBC><vBC>66.67</vBC>"
+     "<pICMS>18.0000</pICMS><vICMS>12.00</vICMS><vICMSDeson>5.00</vICMSDeson><motDesICMS>9</motDesICMS></ICMS20>"
+     "</ICMS>"},
+    {"ICMS40 with relief for SUFRAMA writes 7",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_40())
+                         .set_cst(cst_icms::cst_50)
+                         .set_grupo_icms_desonerado(desonerado(motivo_desoneracao_icms::suframa)));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS40><orig>0</orig><CST>50</CST><vICMSDeson>5.00</vICMSDeson><motDesICMS>7</motDesICMS></ICMS40>"
+     "</ICMS>"},
+    {"ICMS51 with its modBC and every value",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_51())
+                         .set_cst(cst_icms::cst_51)
+                         .set_percentual_reducao_bc_icms(valor("0"))
+                         .set_valor_bc_icms(valor("100"))
+                         .set_aliquota_icms(valor("18"))
+                         .set_valor_icms_operacao(valor("18"))
+                         .set_percentual_diferimento(valor("100"))
+                         .set_valor_icms_diferido(valor("18"))
+                         .set_valor_icms(valor("0")));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS51><orig>0</orig><CST>51</CST><modBC>0</modBC><pRedBC>0.0000</pRedBC><vBC>100.00</vBC>"
+     "<pICMS>18.0000</pICMS><vICMSOp>18.00</vICMSOp><pDif>100.0000</pDif><vICMSDif>18.00</vICMSDif>"
+     "<vICMS>0.00</vICMS></ICMS51></ICMS>"},
+    {"ICMS60 with retained, fund and effective ICMS",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_60())
+                         .set_cst(cst_icms::cst_60)
+                         .set_icms_st_retido(grupo_icms_st_retido()
+                                                 .set_valor_bc_icms_retido(valor("100"))
+                                                 .set_aliquota_suportada_consumidor_final(valor("20"))
+                                                 .set_valor_icms_proprio_substituto(valor("12"))
+                                                 .set_valor_icms_st_retido(valor("8")))
+                         .set_fcp_st_retido_anteriormente(grupo_fcp_st_retido_anteriormente()
+                                                              .set_valor_bc(valor("100"))
+                                                              .set_percentual(valor("2"))
+                                                              .set_valor(valor("2")))
+                         .set_informacoes_icms_efetivo(informacoes_icms_efetivo()
+                                                           .set_percentual_reducao_bc(valor("0"))
+                                                           .set_valor_bc(valor("100"))
+                                                           .set_aliquota(valor("18"))
+                                                           .set_valor(valor("18"))));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS60><orig>0</orig><CST>60</CST><vBCSTRet>100.00</vBCSTRet><pST>20.0000</pST>"
+     "<vICMSSubstituto>12.00</vICMSSubstituto><vICMSSTRet>8.00</vICMSSTRet><vBCFCPSTRet>100.00</vBCFCPSTRet>"
+     "<pFCPSTRet>2.0000</pFCPSTRet><vFCPSTRet>2.00</vFCPSTRet><pRedBCEfet>0.0000</pRedBCEfet><vBCEfet>100.00"
+     "</vBCEfet><pICMSEfet>18.0000</pICMSEfet><vICMSEfet>18.00</vICMSEfet></ICMS60></ICMS>"},
+    {"ICMS70 without its own values writes zeros",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_70())
+                         .set_cst(cst_icms::cst_70)
+                         .set_percentual_reducao_bc_icms(valor("10"))
+                         .set_valor_bc_icms_st(valor("90"))
+                         .set_valor_icms_st(valor("16.2")));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS70><orig>0</orig><CST>70</CST><modBC>0</modBC><pRedBC>10.0000</pRedBC><vBC>0.00</vBC>"
+     "<pICMS>0.0000</pICMS><vICMS>0.00</vICMS><modBCST>0</modBCST><vBCST>90.00</vBCST><pICMSST>0.0000</pICMSST>"
+     "<vICMSST>16.20</vICMSST></ICMS70></ICMS>"},
+    {"ICMS90 with its three optional parts",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_90())
+                         .set_cst(cst_icms::cst_90)
+                         .set_tributacao_normal_icms_90(
+                             tributacao_normal_icms_90()
+                                 .set_modalidade_bc_icms(modalidade_bc_icms::preco_tabelado)
+                                 .set_valor_bc_icms(valor("100"))
+                                 .set_percentual_reducao_bc_icms(valor("5"))
+                                 .set_aliquota_icms(valor("18"))
+                                 .set_valor_icms(valor("17.1"))
+                                 .set_fcp(grupo_fcp().set_valor_bc(valor("95")).set_percentual(valor("2")).set_valor(
+                                     valor("1.9"))))
+                         .set_tributacao_st_icms_90(st_90())
+                         .set_grupo_icms_desonerado(desonerado(motivo_desoneracao_icms::produtor_agropecuario)));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMS90><orig>0</orig><CST>90</CST><modBC>2</modBC><vBC>100.00</vBC><pRedBC>5.0000</pRedBC>"
+     "<pICMS>18.0000</pICMS><vICMS>17.10</vICMS><vBCFCP>95.00</vBCFCP><pFCP>2.0000</pFCP><vFCP>1.90</vFCP>"
+     "<modBCST>5</modBCST><vBCST>140.00</vBCST><pICMSST>18.0000</pICMSST><vICMSST>7.20</vICMSST>"
+     "<vBCFCPST>140.00</vBCFCPST><pFCPST>2.0000</pFCPST><vFCPST>2.80</vFCPST><vICMSDeson>5.00</vICMSDeson>"
+     "<motDesICMS>3</motDesICMS></ICMS90></ICMS>"},
+    {"ICMS90 alone", [](nota_fiscal& n) { tributar(n, grupo_tributacao_icms_90().set_cst(cst_icms::cst_90)); },
+     "det", "ICMS", "<ICMS><ICMS90><orig>0</orig><CST>90</CST></ICMS90></ICMS>"},
+    {"ICMSST passes the substitution on",
+     [](nota_fiscal& n) {
+         tributar(n, grupo_repasse_icms_st()
+                         .set_origem_mercadoria(origem_mercadoria::estrangeira_mercado_interno)
+                         .set_tributacao_icms(cst_icms::cst_41)
+                         .set_valor_bc_icms_st_retido(valor("500"))
+                         .set_valor_icms_st_retido(valor("45"))
+                         .set_valor_bc_icms_st_destino(valor("520"))
+                         .set_valor_icms_st_destino(valor("93.6")));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMSST><orig>2</orig><CST>41</CST><vBCSTRet>500.00</vBCSTRet><vICMSSTRet>45.00</vICMSSTRet>"
+     "<vBCSTDest>520.00</vBCSTDest><vICMSSTDest>93.60</vICMSSTDest></ICMSST></ICMS>"},
+    {"ICMSSN101",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_101())
+                         .set_csosn(csosn::csosn_101)
+                         .set_aliquota_de_credito_sn(valor("2.56"))
+                         .set_valor_de_credito_sn(valor("47.36")));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMSSN101><orig>0</orig><CSOSN>101</CSOSN><pCredSN>2.5600</pCredSN><vCredICMSSN>47.36</vCredICMSSN>"
+     "</ICMSSN101></ICMS>"},
+    {"CSOSN 300 in ICMSSN102",
+     [](nota_fiscal& n) {
+         tributar(n, grupo_tributacao_icms_102()
+                         .set_origem_mercadoria(origem_mercadoria::nacional_conteudo_importado_acima_70)
+                         .set_csosn(csosn::csosn_300));
+     },
+     "det", "ICMS", "<ICMS><ICMSSN102><orig>8</orig><CSOSN>300</CSOSN></ICMSSN102></ICMS>"},
+    {"ICMSSN201 without vICMSST writes zero",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_201())
+                         .set_csosn(csosn::csosn_201)
+                         .set_modalidade_bc_icms_st(modalidade_bc_icms_st::margem_valor_agregado)
+                         .set_valor_bc_icms_st(valor("160"))
+                         .set_aliquota_icms_st(valor("17"))
+                         .set_aliquota_de_credito_sn(valor("3.01"))
+                         .set_valor_de_credito_sn(valor("3.01")));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMSSN201><orig>0</orig><CSOSN>201</CSOSN><modBCST>4</modBCST><vBCST>160.00</vBCST>"
+     "<pICMSST>17.0000</pICMSST><vICMSST>0.00</vICMSST><pCredSN>3.0100</pCredSN><vCredICMSSN>3.01</vCredICMSSN>"
+     "</ICMSSN201></ICMS>"},
+    {"CSOSN 203 in ICMSSN202",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_202())
+                         .set_csosn(csosn::csosn_203)
+                         .set_modalidade_bc_icms_st(modalidade_bc_icms_st::preco_tabelado)
+                         .set_valor_bc_icms_st(valor("50"))
+                         .set_aliquota_icms_st(valor("17"))
+                         .set_valor_icms_st(valor("8.5")));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMSSN202><orig>0</orig><CSOSN>203</CSOSN><modBCST>0</modBCST><vBCST>50.00</vBCST>"
+     "<pICMSST>17.0000</pICMSST><vICMSST>8.50</vICMSST></ICMSSN202></ICMS>"},
+    {"ICMSSN500 alone",
+     [](nota_fiscal& n) { tributar(n, origem_nacional(grupo_tributacao_icms_500()).set_csosn(csosn::csosn_500)); },
+     "det", "ICMS", "<ICMS><ICMSSN500><orig>0</orig><CSOSN>500</CSOSN></ICMSSN500></ICMS>"},
+    {"ICMSSN900 with normal ICMS, substitution and credit",
+     [](nota_fiscal& n) {
+         tributar(n, origem_nacional(grupo_tributacao_icms_900())
+                         .set_csosn(csosn::csosn_900)
+                         .set_tributacao_normal_icms_900(tributacao_normal_icms_900()
+                                                             .set_modalidade_bc_icms(modalidade_bc_icms::valor_operacao)
+                                                             .set_valor_bc_icms(valor("100"))
+                                                             .set_aliquota_icms(valor("17"))
+                                                             .set_valor_icms(valor("17")))
+                         .set_tributacao_st_icms_900(tributacao_st_icms_900()
+                                                         .set_modalidade_bc_icms_st(modalidade_bc_icms_st::lista_negativa)
+                                                         .set_valor_bc_icms_st(valor("150")))
+                         .set_tributacao_credito_sn_icms_900(
+                             tributacao_credito_sn_icms_900().set_aliquota_de_credito_sn(valor("1.25"))));
+     },
+     "det", "ICMS",
+     "<ICMS><ICMSSN900><orig>0</orig><CSOSN>900</CSOSN><modBC>3</modBC><vBC>100.00</vBC><pICMS>17.0000</pICMS>"
+     "<vICMS>17.00</vICMS><modBCST>1</modBCST><vBCST>150.00</vBCST><pCredSN>1.2500</pCredSN></ICMSSN900></ICMS>"},
+    // IPI
+    {"IPI CST 49 is taxed",
+     [](nota_fiscal& n) {
+         com_ipi(n, tributacao_ipi()
+                        .set_cnpj_produtor("08931527000141")
+                        .set_codigo_selo_controle_ipi("971001")
+                        .set_quantidade_selo_controle(1000)
+                        .set_classe_enquadramento_ipi("301")
+                        .set_cst_ipi(cst_ipi::cst_49)
+                        .set_tributacao_ipi_calculo_aliquota(
+                            tributacao_ipi_calculo_aliquota().set_valor_bc_ipi(valor("1850")).set_aliquota_ipi(
+                                valor("5")))
+                        .set_valor_ipi(valor("92.5")));
+     },
+     "det", "IPI",
+     "<IPI><CNPJProd>08931527000141</CNPJProd><cSelo>971001</cSelo><qSelo>000000001000</qSelo><cEnq>301</cEnq>"
+     "<IPITrib><CST>49</CST><vBC>1850.00</vBC><pIPI>5.0000</pIPI><vIPI>92.50</vIPI></IPITrib></IPI>"},
+    {"IPI by unit takes the taxable quantity",
+     [](nota_fiscal& n) {
+         com_ipi(n, tributacao_ipi()
+                        .set_classe_enquadramento_ipi("999")
+                        .set_cst_ipi(cst_ipi::cst_99)
+                        .set_tributacao_ipi_calculo_valor(
+                            tributacao_ipi_calculo_valor().set_valor_unidade_tributavel(valor("1.5")))
+                        .set_valor_ipi(valor("15")));
+     },
+     "det", "IPITrib",
+     "<IPITrib><CST>99</CST><qUnid>10.0000</qUnid><vUnid>1.5000</vUnid><vIPI>15.00</vIPI></IPITrib>"},
+    {"IPI taxed without a calculation",
+     [](nota_fiscal& n) {
+         com_ipi(n, tributacao_ipi().set_classe_enquadramento_ipi("999").set_valor_ipi(valor("0")));
+     },
+     "det", "IPITrib", "<IPITrib><CST>00</CST><vBC>0.00</vBC><pIPI>0.0000</pIPI><vIPI>0.00</vIPI></IPITrib>"},
+    {"IPI CST 01 is not taxed",
+     [](nota_fiscal& n) { com_ipi(n, tributacao_ipi().set_classe_enquadramento_ipi("1").set_cst_ipi(cst_ipi::cst_01)); },
+     "det", "IPI", "<IPI><qSelo>000000000000</qSelo><cEnq>001</cEnq><IPINT><CST>01</CST></IPINT></IPI>"},
+    {"import tax without IOF writes zero",
+     [](nota_fiscal& n) {
+         no_primeiro_produto(n, [](produto& p) {
+             p.set_tributacao_importacao(tributacao_imposto_importacao()
+                                             .set_valor_bc_imposto_importacao(valor("1000"))
+                                             .set_valor_despesas_aduaneiras(valor("20.5"))
+                                             .set_valor_imposto_importacao(valor("160")));
+         });
+     },
+     "det", "II", "<II><vBC>1000.00</vBC><vDespAdu>20.50</vDespAdu><vII>160.00</vII><vIOF>0.00</vIOF></II>"},
+    // PIS and COFINS
+    {"PIS not taxed, value 5, writes 09",
+     [](nota_fiscal& n) {
+         com_pis_cofins(n, tributacao_pis_cofins().set_grupo_tributacao_pis(
+                               grupo_tributacao_pis_nt().set_cst_pis(cst_pis_cofins_nao_tributado::cst_09)));
+     },
+     "det", "PIS", "<PIS><PISNT><CST>09</CST></PISNT></PIS>"},
+    {"PIS by rate, differentiated",
+     [](nota_fiscal& n) {
+         com_pis_cofins(n, tributacao_pis_cofins().set_grupo_tributacao_pis(
+                               grupo_tributacao_pis_aliquota()
+                                   .set_cst_pis(cst_pis_cofins_aliquota::cst_02)
+                                   .set_valor_bc_pis(valor("1850"))
+                                   .set_percentual_aliquota_pis(valor("2.1"))
+                                   .set_valor_pis(valor("38.85"))));
+     },
+     "det", "PIS",
+     "<PIS><PISAliq><CST>02</CST><vBC>1850.00</vBC><pPIS>2.1000</pPIS><vPIS>38.85</vPIS></PISAliq></PIS>"},
+    {"COFINS of other operations, the last CST",
+     [](nota_fiscal& n) {
+         com_pis_cofins(n, tributacao_pis_cofins().set_grupo_tributacao_cofins(
+                               grupo_tributacao_cofins_outros()
+                                   .set_cst_cofins(cst_pis_cofins_outras_operacoes::cst_99)
+                                   .set_valor_bc_cofins(valor("100"))
+                                   .set_percentual_aliquota_cofins(valor("3"))
+                                   .set_valor_cofins(valor("3"))));
+     },
+     "det", "COFINS",
+     "<COFINS><COFINSOutr><CST>99</CST><vBC>100.00</vBC><pCOFINS>3.0000</pCOFINS><vCOFINS>3.00</vCOFINS>"
+     "</COFINSOutr></COFINS>"},
+    {"PIS of other operations, value 8, writes 60",
+     [](nota_fiscal& n) {
+         com_pis_cofins(n, tributacao_pis_cofins().set_grupo_tributacao_pis(
+                               grupo_tributacao_pis_outros()
+                                   .set_cst_pis(cst_pis_cofins_outras_operacoes::cst_60)
+                                   .set_valor_bc_pis(valor("0"))
+                                   .set_percentual_aliquota_pis(valor("0"))));
+     },
+     "det", "PISOutr", "<PISOutr><CST>60</CST><vBC>0.00</vBC><pPIS>0.0000</pPIS><vPIS>0.00</vPIS></PISOutr>"},
+    {"COFINS not taxed, value 3, writes 07",
+     [](nota_fiscal& n) {
+         com_pis_cofins(n, tributacao_pis_cofins().set_grupo_tributacao_cofins(
+                               grupo_tributacao_cofins_nt().set_cst_cofins(cst_pis_cofins_nao_tributado::cst_07)));
+     },
+     "det", "COFINS", "<COFINS><COFINSNT><CST>07</CST></COFINSNT></COFINS>"},
+    // ISSQN
+    {"ISSQN with every optional tag",
+     [](nota_fiscal& n) {
+         tributar(n, issqn()
+                         .set_valor_bc(valor("450"))
+                         .set_valor_aliquota(valor("2"))
+                         .set_valor_issqn(valor("9"))
+                         .set_codigo_municio_de_ocorrencia(3509502)
+                         .set_item_lista_servicos("14.01")
+                         .set_valor_deducao(valor("10"))
+                         .set_valor_outras_retencoes(valor("1"))
+                         .set_valor_desconto_incondicionado(valor("2"))
+                         .set_valor_desconto_condicionado(valor("3"))
+                         .set_valor_retencao_iss(valor("9"))
+                         .set_indicador_iss(1)
+                         .set_codigo_servico("1401")
+                         .set_codigo_municipio_incidencia(3509502)
+                         .set_codigo_pais(1058)
+                         .set_numero_processo("123/2024")
+                         .set_indicador_incentivo(2));
+     },
+     "det", "ISSQN",
+     "<ISSQN><vBC>450.00</vBC><vAliq>2.0000</vAliq><vISSQN>9.00</vISSQN><cMunFG>3509502</cMunFG>"
+     "<cListServ>14.01</cListServ><vDeducao>10.00</vDeducao><vOutro>1.00</vOutro><vDescIncond>2.00</vDescIncond>"
+     "<vDescCond>3.00</vDescCond><vISSRet>9.00</vISSRet><indISS>1</indISS><cServico>1401</cServico>"
+     "<cMun>3509502</cMun><cPais>1058</cPais><nProcesso>123/2024</nProcesso><indIncentivo>2</indIncentivo></ISSQN>"},
+    // transp
+    {"carrier's address of street, town and state",
+     [](nota_fiscal& n) {
+         no_transporte(n, [](informacoes_transporte& t) {
+             t.set_transportador(transportador().set_logradouro("Rua A").set_municipio("Lages").set_uf("SC"));
+         });
+     },
+     "transp", "transporta",
+     "<transporta><xEnder>Rua A Lages SC</xEnder><xMun>Lages</xMun><UF>SC</UF></transporta>"},
+    {"carrier's address of the state alone",
+     [](nota_fiscal& n) {
+         no_transporte(n, [](informacoes_transporte& t) { t.set_transportador(transportador().set_uf("SC")); });
+     },
+     "transp", "transporta", "<transporta><xEnder>SC</xEnder><UF>SC</UF></transporta>"},
+    {"carrier without address",
+     [](nota_fiscal& n) {
+         no_transporte(n, [](informacoes_transporte& t) {
+             t.set_transportador(transportador().set_documento(velk::erp::cpf(38417295682)).set_razao_social("Jo"));
+         });
+     },
+     "transp", "transporta", "<transporta><CPF>38417295682</CPF><xNome>Jo</xNome></transporta>"},
+    {"no transport writes 9",
+     [](nota_fiscal& n) {
+         no_transporte(n, [](informacoes_transporte& t) { t.set_modalidade_frete(modalidade_frete::sem_transporte); });
+     },
+     "transp", "modFrete", "<modFrete>9</modFrete>"},
+    {"the recipient's own transport writes 4",
+     [](nota_fiscal& n) {
+         no_transporte(n,
+                       [](informacoes_transporte& t) { t.set_modalidade_frete(modalidade_frete::proprio_destinatario); });
+     },
+     "transp", "modFrete", "<modFrete>4</modFrete>"},
+    {"vehicle", [](nota_fiscal&) {}, "transp", "veicTransp",
+     "<veicTransp><placa>BRA2E19</placa><UF>SP</UF><RNTC>045123987</RNTC></veicTransp>"},
+    {"volume", [](nota_fiscal&) {}, "transp", "vol",
+     "<vol><qVol>15</qVol><esp>CAIXA</esp><marca>DISTRIMED</marca><pesoL>38.500</pesoL><pesoB>41.200</pesoB></vol>"},
+    // cobr
+    {"the bill", [](nota_fiscal&) {}, "cobr", "fat",
+     "<fat><nFat>721</nFat><vOrig>6189.50</vOrig><vDesc>0.00</vDesc><vLiq>6189.50</vLiq></fat>"},
+    {"a bill of instalments only has an empty invoice",
+     [](nota_fiscal& n) { n.set_cobranca(cobranca().set_duplicatas({duplicata().set_valor_duplicata(valor("10"))})); },
+     "cobr", "cobr", "<cobr><fat/><dup><vDup>10.00</vDup></dup></cobr>"},
+    // pag
+    {"means 12 writes 99",
+     [](nota_fiscal& n) {
+         pago_com(n, detalhes_pagamento().set_meio_pagamento(meio_pagamento::outros).set_descricao_meio_pagamento("X"));
+     },
+     "pag", "detPag", "<detPag><tPag>99</tPag><xPag>X</xPag><vPag>6189.50</vPag></detPag>"},
+    {"means 13 writes 16",
+     [](nota_fiscal& n) { pago_com(n, detalhes_pagamento().set_meio_pagamento(meio_pagamento::deposito_bancario)); },
+     "pag", "tPag", "<tPag>16</tPag>"},
+    {"means 16, the last, writes 19",
+     [](nota_fiscal& n) { pago_com(n, detalhes_pagamento().set_meio_pagamento(meio_pagamento::programa_fidelidade)); },
+     "pag", "tPag", "<tPag>19</tPag>"},
+    {"card of brand 27 writes 99",
+     [](nota_fiscal& n) {
+         pago_com(n, detalhes_pagamento()
+                         .set_indicador_forma_pagamento(indicador_forma_pagamento::a_vista)
+                         .set_meio_pagamento(meio_pagamento::cartao_credito)
+                         .set_transacao_tef(transacao_tef()
+                                                .set_tipo_integracao(tipo_integracao_pagamento::nao_integrado)
+                                                .set_cnpj("38061794000176")
+                                                .set_bandeira(bandeira_cartao::outros)
+                                                .set_numero_autorizacao("0042")));
+     },
+     "pag", "detPag",
+     "<detPag><indPag>0</indPag><tPag>03</tPag><vPag>6189.50</vPag><card><tpIntegra>2</tpIntegra>"
+     "<CNPJ>38061794000176</CNPJ><tBand>99</tBand><cAut>0042</cAut></card></detPag>"},
+    {"card of brand 26 writes 27",
+     [](nota_fiscal& n) {
+         pago_com(n, detalhes_pagamento()
+                         .set_meio_pagamento(meio_pagamento::cartao_debito)
+                         .set_transacao_tef(transacao_tef().set_bandeira(bandeira_cartao::ticket)));
+     },
+     "pag", "tBand", "<tBand>27</tBand>"},
+    {"card without integration type writes 0",
+     [](nota_fiscal& n) {
+         pago_com(n, detalhes_pagamento().set_meio_pagamento(meio_pagamento::cartao_debito).set_transacao_tef(
+                         transacao_tef()));
+     },
+     "pag", "card", "<card><tpIntegra>0</tpIntegra></card>"},
+    {"no change", [](nota_fiscal&) {}, "pag", "vTroco", ""},
+    {"no payment", [](nota_fiscal& n) { n.set_informacoes_pagamento(informacoes_pagamento()); }, "pag", "pag",
+     "<pag/>"},
+    // closing groups
+    {"marketplace",
+     [](nota_fiscal& n) {
+         n.set_informacoes_intermediador(
+             informacoes_intermediador().set_cnpj(8931527000141).set_identificador_cadastrado("loja-oficial"));
+     },
+     "infIntermed", "infIntermed",
+     "<infIntermed><CNPJ>08931527000141</CNPJ><idCadIntTran>loja-oficial</idCadIntTran></infIntermed>"},
+    {"additional information with processes",
+     [](nota_fiscal& n) {
+         n.set_informacoes_adicionais(informacoes_adicionais()
+                                          .set_informacoes_adicionais_fisco("Regime especial 123")
+                                          .set_informacoes_complementares("")
+                                          .set_grupo_processo_referenciado(
+                                              {grupo_processo_referenciado().set_identificador("A1").set_indicador_da_origem(
+                                                   indicador_origem_processo::outros),
+                                               grupo_processo_referenciado().set_identificador("B2").set_indicador_da_origem(
+                                                   indicador_origem_processo::secex_rfb)}));
+     },
+     "infAdic", "infAdic",
+     "<infAdic><infAdFisco>Regime especial 123</infAdFisco><infCpl/><procRef><nProc>A1</nProc><indProc>9</indProc>"
+     "</procRef><procRef><nProc>B2</nProc><indProc>3</indProc></procRef></infAdic>"},
+    {"export",
+     [](nota_fiscal& n) {
+         n.set_comercio_exterior(
+             informacoes_comercio_exterior().set_uf_saida("PR").set_local_embarque("PORTO DE PARANAGUA"));
+     },
+     "exporta", "exporta", "<exporta><UFSaidaPais>PR</UFSaidaPais><xLocExporta>PORTO DE PARANAGUA</xLocExporta></exporta>"},
+    {"technical manager without security code", [](nota_fiscal&) {}, "infRespTec", "infRespTec",
+     "<infRespTec><CNPJ>19374562000123</CNPJ><xContato>Marina Okamoto</xContato><email>fiscal@velkerp.com.br</email>"
+     "<fone>1140028922</fone></infRespTec>"},
+    {"technical manager with security code",
+     [](nota_fiscal& n) {
+         n.set_informacoes_responsavel_tecnico(n.get_informacoes_responsavel_tecnico()->set_informacoes_codigo_seguranca(
+             informacoes_codigo_seguranca().set_identificador_csrt(2).set_hash_csrt("aWv6LeEM4X6u4+qBI+OuSJe/B5k=")));
+     },
+     "infRespTec", "idCSRT", "<idCSRT>02</idCSRT>"},
+    // total
+    {"totals of services and withheld taxes",
+     [](nota_fiscal& n) {
+         n.set_total_nfe(n.get_total_nfe()
+                             .set_total_issqn(total_nfe_issqn()
+                                                  .set_valor_servico(valor("450"))
+                                                  .set_data_prestacao_servico(velk::core::date(20, 5, 2024))
+                                                  .set_valor_iss_retido(valor("9")))
+                             .set_total_nfe_retencao_tributos(total_nfe_retencao_tributos()
+                                                                  .set_valor_pis_retido(valor("2.93"))
+                                                                  .set_valor_base_calculo_irrf(valor("450"))
+                                                                  .set_valor_irrf(valor("6.75"))
+                                                                  .set_valor_bc_retencao_previdencia(valor("450"))
+                                                                  .set_valor_retencao_previdencia(valor("49.5"))));
+     },
+     "total", "total",
+     "<total><ICMSTot><vBC>3095.00</vBC><vICMS>271.80</vICMS><vICMSDeson>0.00</vICMSDeson>"
+     "<vFCPUFDest>61.90</vFCPUFDest><vICMSUFDest>347.20</vICMSUFDest><vICMSUFRemet>0.00</vICMSUFRemet>"
+     "<vFCP>0.00</vFCP><vBCST>0.00</vBCST><vST>0.00</vST><vFCPST>0.00</vFCPST><vFCPSTRet>0.00</vFCPSTRet>"
+     "<vProd>6189.50</vProd><vFrete>0.00</vFrete><vSeg>0.00</vSeg><vDesc>0.00</vDesc><vII>0.00</vII>"
+     "<vIPI>0.00</vIPI><vIPIDevol>0.00</vIPIDevol><vPIS>20.54</vPIS><vCOFINS>94.62</vCOFINS><vOutro>0.00</vOutro>"
+     "<vNF>6189.50</vNF></ICMSTot><ISSQNtot><vServ>450.00</vServ><dCompet>2024-05-20</dCompet>"
+     "<vISSRet>9.00</vISSRet></ISSQNtot><retTrib><vRetPIS>2.93</vRetPIS><vBCIRRF>450.00</vBCIRRF>"
+     "<vIRRF>6.75</vIRRF><vBCRetPrev>450.00</vBCRetPrev><vRetPrev>49.50</vRetPrev></retTrib></total>"},
+};
+
 class escrever_valor : public testing::TestWithParam<escrita> {};
 
 TEST_P(escrever_valor, in_the_form_of_its_tag)
@@ -268,5 +811,6 @@ TEST_P(escrever_valor, in_the_form_of_its_tag)
 }
 
 INSTANTIATE_TEST_SUITE_P(tags, escrever_valor, testing::ValuesIn(escritas));
+INSTANTIATE_TEST_SUITE_P(impostos_e_fechamento, escrever_valor, testing::ValuesIn(escritas_impostos));
 
 }  // namespace

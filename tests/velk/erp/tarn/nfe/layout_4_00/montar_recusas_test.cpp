@@ -2,29 +2,29 @@
 // refuse: the code, its words, the argument "value" and the items beneath.
 
 #include "layout_teste.hpp"
+#include "recusa_teste.hpp"
 
 #include <support/notas_fiscais.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/montar_layout_4_00.hpp>
-#include <velk/erp/tarn/nfe/processar_nota_result_category.hpp>
 
 #include <gtest/gtest.h>
 
-#include <cctype>
-#include <functional>
-#include <ostream>
-#include <string>
-#include <utility>
 #include <vector>
 
 namespace {
 
 using namespace velk::erp::fiscal;
 using velk::core::result::stack;
-using velk::erp::tarn::nfe::processar_nota_result_category;
 using velk::erp::tarn::nfe::layout_4_00::montar_layout_4_00;
 using velk::test::no_destinatario;
 using velk::test::no_emitente;
 using velk::test::no_endereco_emitente;
+using velk::test::bruto;
+using velk::test::cnpj_interno;
+using velk::test::conversor;
+using velk::test::cpf_interno;
+using velk::test::nome_do_caso;
+using velk::test::recusa;
 
 template <class Alterar>
 void na_entrega(nota_fiscal& nota, Alterar alterar)
@@ -78,30 +78,6 @@ void na_nota_referenciada(nota_fiscal& nota, Alterar alterar)
     alterar(referencias.at(0));
     nota.set_nf_referenciadas(referencias);
 }
-
-template <class Enumeracao>
-Enumeracao bruto(unsigned int valor)
-{
-    return static_cast<Enumeracao>(valor);
-}
-
-struct item_esperado {
-    std::string categoria;
-    int codigo;
-};
-
-item_esperado const conversor{"core-converter", 2};
-item_esperado const cpf_interno{"internal-errors", 1};
-item_esperado const cnpj_interno{"internal-errors", 2};
-
-struct recusa {
-    char const* caso;
-    std::function<void(nota_fiscal&)> alterar;
-    int codigo;
-    char const* palavras;
-    char const* valor;  // null: no argument
-    std::vector<item_esperado> abaixo;  // from the bottom of the stack
-};
 
 std::vector<recusa> const recusas = {
     {"producer's CNPJ with punctuation",
@@ -236,53 +212,11 @@ std::vector<recusa> const recusas = {
      81, "O tipo de arma está inválido", "2", {}},
 };
 
-void PrintTo(recusa const& caso, std::ostream* saida)
-{
-    *saida << caso.caso;
-}
-
 class montar_recusa : public testing::TestWithParam<recusa> {};
 
 TEST_P(montar_recusa, pushes_its_code_words_and_value_on_top_of_what_the_readers_pushed)
 {
-    recusa const& caso = GetParam();
-    nota_fiscal nota = velk::test::nota_nfe_completa();
-    caso.alterar(nota);
-
-    stack report;
-    auto const arvore = montar_layout_4_00(nota, report);
-
-    ASSERT_TRUE(report.has_failed());
-    EXPECT_TRUE(arvore.versao.empty()) << "a refused note gives a default tree";
-    ASSERT_EQ(report.size(), caso.abaixo.size() + 1) << report.to_string();
-    auto const& topo = report.top();
-    EXPECT_TRUE(topo.get_category() == processar_nota_result_category::instance());
-    EXPECT_EQ(topo.get_value(), caso.codigo);
-    EXPECT_STREQ(topo.get_message(), caso.palavras);
-    if (caso.valor == nullptr) {
-        EXPECT_TRUE(topo.get_arguments().empty());
-    } else {
-        ASSERT_EQ(topo.get_arguments().size(), 1u);
-        EXPECT_EQ(topo.get_arguments()[0].first, "value");
-        EXPECT_EQ(topo.get_arguments()[0].second, caso.valor);
-    }
-    for (std::size_t posicao = 0; posicao < caso.abaixo.size(); ++posicao) {
-        auto const& item = *(report.begin() + static_cast<std::ptrdiff_t>(posicao));
-        EXPECT_STREQ(item.get_category().get_name(), caso.abaixo[posicao].categoria.c_str()) << posicao;
-        EXPECT_EQ(item.get_value(), caso.abaixo[posicao].codigo) << posicao;
-        EXPECT_TRUE(item.get_arguments().empty()) << posicao;
-    }
-}
-
-std::string nome_do_caso(testing::TestParamInfo<recusa> const& info)
-{
-    std::string nome = std::to_string(info.param.codigo) + "_" + info.param.caso;
-    for (char& c : nome) {
-        if (!std::isalnum(static_cast<unsigned char>(c))) {
-            c = '_';
-        }
-    }
-    return nome;
+    velk::test::verificar_recusa(velk::test::nota_nfe_completa(), GetParam());
 }
 
 INSTANTIATE_TEST_SUITE_P(codigos, montar_recusa, testing::ValuesIn(recusas), nome_do_caso);

@@ -1,11 +1,16 @@
 #pragma once
 
+#include <velk/core/optional.hpp>
+
+#include <string>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 
 // Purchase information.
-// Its tags come with the closing groups; until then the record is empty and writes nothing.
 struct compra {
+    core::optional<std::string> xNEmp;
+    core::optional<std::string> xPed;
+    core::optional<std::string> xCont;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

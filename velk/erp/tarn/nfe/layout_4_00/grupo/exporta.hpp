@@ -1,11 +1,16 @@
 #pragma once
 
+#include <velk/core/optional.hpp>
+
+#include <string>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 
-// Export of the goods.
-// Its tags come with the closing groups; until then the record is empty and writes nothing.
+// Export of the goods: where they leave the country.
 struct exporta {
+    std::string UFSaidaPais;
+    std::string xLocExporta;
+    core::optional<std::string> xLocDesp;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

@@ -1,11 +1,14 @@
 #pragma once
 
+#include <cstdint>
+#include <string>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 
 // The marketplace of the sale.
-// Its tags come with the closing groups; until then the record is empty and writes nothing.
 struct infIntermed {
+    std::uint64_t CNPJ = 0;
+    std::string idCadIntTran;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

@@ -4,7 +4,7 @@
 #include <velk/core/optional.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/grupo/DI.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/grupo/detExport.hpp>
-#include <velk/erp/tarn/nfe/layout_4_00/grupo/produto_especifico.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/tipo_produto.hpp>
 #include <velk/erp/tarn/nfe/layout_4_00/grupo/rastro.hpp>
 
 #include <cstdint>
@@ -46,7 +46,7 @@ struct prod {
     core::optional<std::uint32_t> nItemPed;
     core::optional<std::string> nFCI;
     std::vector<grupo::rastro> rastro;
-    core::optional<grupo::produto_especifico> especifico;
+    core::optional<grupo::tipo_produto> especifico;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

@@ -12,7 +12,7 @@
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 
 // The group of an item of a special kind: a vehicle, medicines, firearms, a fuel or immune paper.
-using produto_especifico =
+using tipo_produto =
     core::variant<grupo::veicProd, std::vector<grupo::med>, std::vector<grupo::arma>, grupo::comb, grupo::nRECOPI>;
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

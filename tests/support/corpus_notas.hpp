@@ -1,0 +1,31 @@
+#pragma once
+
+#include <velk/erp/fiscal/nota_fiscal.hpp>
+
+#include <string>
+#include <vector>
+
+namespace velk::test {
+
+// A note of the corpus: a name for test output, what it shows, and the note.
+struct nota_do_corpus {
+    std::string nome;
+    std::string descricao;
+    erp::fiscal::nota_fiscal (*criar)();
+};
+
+// Notes as real issuers of five states send them, model 55 and 65, covering
+// every ICMS class of the model, the three forms of PIS and COFINS, IPI taxed
+// and not taxed, import with its declaration and import tax, services under
+// ISSQN, fuel, medicine, a firearm, an export, card and cash payments with
+// change, a marketplace and a technical manager with its security code. Keys,
+// CNPJ, CPF, state registrations and GTIN carry valid check digits; the totals
+// of each note add up.
+std::vector<nota_do_corpus> const& corpus_notas();
+
+// The access key of a note issued normally, with its check digit: state code,
+// year and month, issuer's CNPJ, model, series, number and the random code.
+std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj, unsigned modelo, unsigned serie,
+                         unsigned numero, unsigned codigo);
+
+}  // namespace velk::test

@@ -1,0 +1,75 @@
+// Every note of the corpus becomes, through from_nota_fiscal, a document that,
+// signed, the official schema accepts and an independent verifier confirms.
+
+#include "layout_teste.hpp"
+
+#include <support/corpus_notas.hpp>
+#include <support/files.hpp>
+#include <support/schema.hpp>
+#include <support/test_certificates.hpp>
+#include <support/xmlsec.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+
+namespace {
+
+using velk::core::result::stack;
+using velk::erp::tarn::nfe::versao;
+using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::test::nota_do_corpus;
+
+class corpus : public testing::TestWithParam<nota_do_corpus> {};
+
+velk::cryptography::pkcs12 const& certificado()
+{
+    static velk::cryptography::pkcs12 const pkcs12 = [] {
+        auto const& certificados = velk::test::test_certificates::instance();
+        stack report;
+        auto lido = velk::cryptography::pkcs12::from_byte_array(certificados.pkcs12(), certificados.password(), report);
+        EXPECT_FALSE(report.has_failed()) << report.to_string();
+        return lido;
+    }();
+    return pkcs12;
+}
+
+TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
+{
+    stack report;
+    documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    documento.assinar(certificado(), report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    velk::xml::document arvore;
+    arvore.append_node(documento.get_xml(), report);
+    std::string const texto = velk::xml::document::save(arvore, report).to_string();
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+
+    auto const erros = velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", arvore);
+    EXPECT_TRUE(erros.empty()) << testing::PrintToString(erros) << "\n" << texto;
+
+    auto const verificacao = velk::test::xmlsec_verify(texto, "http://www.portalfiscal.inf.br/nfe:infNFe",
+                                                       velk::test::test_certificates::instance().ca_pem());
+    EXPECT_TRUE(verificacao.success) << verificacao.output;
+}
+
+std::string nome_da_nota(testing::TestParamInfo<nota_do_corpus> const& info)
+{
+    return info.param.nome;
+}
+
+INSTANTIATE_TEST_SUITE_P(notas, corpus, testing::ValuesIn(velk::test::corpus_notas()), nome_da_nota);
+
+}  // namespace
+
+namespace velk::test {
+
+void PrintTo(nota_do_corpus const& nota, std::ostream* saida)
+{
+    *saida << nota.nome;
+}
+
+}  // namespace velk::test

@@ -1,0 +1,309 @@
+// Members of the tree that the fiscal model never fills, written as other
+// sources fill them; and the outputs that the layout of this library writes
+// although the official schema refuses them.
+
+#include "layout_teste.hpp"
+
+#include <support/corpus_notas.hpp>
+#include <support/files.hpp>
+#include <support/notas_fiscais.hpp>
+#include <support/schema.hpp>
+#include <support/test_certificates.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <ostream>
+#include <string>
+
+namespace {
+
+namespace layout = velk::erp::tarn::nfe::layout_4_00;
+namespace grupo = velk::erp::tarn::nfe::layout_4_00::grupo;
+using velk::core::result::stack;
+using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::test::valor;
+
+layout::layout_4_00 arvore_de(velk::erp::fiscal::nota_fiscal const& nota)
+{
+    stack report;
+    layout::layout_4_00 arvore = layout::montar_layout_4_00(nota, report);
+    EXPECT_FALSE(report.has_failed()) << report.to_string();
+    return arvore;
+}
+
+velk::xml::document documento_de(layout::layout_4_00 const& arvore)
+{
+    stack report;
+    velk::xml::document documento = layout::escrever_layout_4_00(arvore, report);
+    EXPECT_FALSE(report.has_failed()) << report.to_string();
+    return documento;
+}
+
+std::string escrito(layout::layout_4_00 const& arvore, std::string const& grupo_raiz, std::string const& tag)
+{
+    std::string todos;
+    for (std::string const& texto : velk::test::grupos(documento_de(arvore), grupo_raiz)) {
+        todos += texto;
+    }
+    std::string const fecha = "</" + tag + ">";
+    auto const inicio = todos.find("<" + tag + ">");
+    return inicio == std::string::npos ? std::string()
+                                       : todos.substr(inicio, todos.find(fecha, inicio) + fecha.size() - inicio);
+}
+
+grupo::imposto& imposto_do_primeiro_item(layout::layout_4_00& arvore)
+{
+    return arvore.det.at(0).imposto;
+}
+
+TEST(escrever_outras_fontes, quantity_forms_of_pis_and_cofins_with_their_places)
+{
+    layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
+    grupo::imposto& imposto = imposto_do_primeiro_item(arvore);
+    imposto.PIS = grupo::PISOutr{99, grupo::PIS_quantidade{valor("1.5"), valor("0.8")}, valor("1.2")};
+    imposto.PISST = grupo::PISST{grupo::PIS_quantidade{valor("1.5"), valor("0.8")}, valor("1.2")};
+    imposto.COFINS = grupo::COFINSOutr{99, grupo::COFINS_quantidade{valor("1.5"), valor("3.6")}, valor("5.4")};
+    imposto.COFINSST = grupo::COFINSST{grupo::COFINS_quantidade{valor("1.5"), valor("3.6")}, {}};
+
+    EXPECT_EQ(escrito(arvore, "det", "PIS"),
+              "<PIS><PISOutr><CST>99</CST><qBCProd>1.5000</qBCProd><vAliqProd>0.8000</vAliqProd><vPIS>1.20</vPIS>"
+              "</PISOutr></PIS>");
+    EXPECT_EQ(escrito(arvore, "det", "PISST"),
+              "<PISST><qBCProd>1.5000</qBCProd><vAliqProd>0.8000</vAliqProd><vPIS>1.20</vPIS></PISST>");
+    EXPECT_EQ(escrito(arvore, "det", "COFINS"),
+              "<COFINS><COFINSOutr><CST>99</CST><qBCProd>1.50</qBCProd><vAliqProd>3.6000</vAliqProd>"
+              "<vCOFINS>5.40</vCOFINS></COFINSOutr></COFINS>");
+    EXPECT_EQ(escrito(arvore, "det", "COFINSST"),
+              "<COFINSST><qBCProd>1.50</qBCProd><vAliqProd>3.6000</vAliqProd></COFINSST>");
+}
+
+TEST(escrever_outras_fontes, quantity_groups_and_substitution_by_rate)
+{
+    layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
+    grupo::imposto& imposto = imposto_do_primeiro_item(arvore);
+    imposto.PIS = grupo::PISQtde{3, valor("1000"), valor("0.1"), valor("100")};
+    imposto.PISST = grupo::PISST{grupo::PIS_aliquota{valor("100"), valor("1.65")}, valor("1.65")};
+    imposto.COFINS = grupo::COFINSQtde{3, valor("1000"), valor("0.5"), valor("500")};
+    imposto.COFINSST = grupo::COFINSST{grupo::COFINS_aliquota{valor("100"), valor("7.6")}, valor("7.6")};
+
+    EXPECT_EQ(escrito(arvore, "det", "PIS"),
+              "<PIS><PISQtde><CST>03</CST><qBCProd>1000.0000</qBCProd><vAliqProd>0.1000</vAliqProd>"
+              "<vPIS>100.00</vPIS></PISQtde></PIS>");
+    EXPECT_EQ(escrito(arvore, "det", "PISST"), "<PISST><vBC>100.00</vBC><pPIS>1.6500</pPIS><vPIS>1.65</vPIS></PISST>");
+    EXPECT_EQ(escrito(arvore, "det", "COFINS"),
+              "<COFINS><COFINSQtde><CST>03</CST><qBCProd>1000.0000</qBCProd><vAliqProd>0.5000</vAliqProd>"
+              "<vCOFINS>500.00</vCOFINS></COFINSQtde></COFINS>");
+    EXPECT_EQ(escrito(arvore, "det", "COFINSST"),
+              "<COFINSST><vBC>100.00</vBC><pCOFINS>7.6000</pCOFINS><vCOFINS>7.60</vCOFINS></COFINSST>");
+}
+
+TEST(escrever_outras_fontes, shared_icms)
+{
+    layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
+    grupo::ICMSPart part;
+    part.orig = 0;
+    part.CST = 10;
+    part.modBC = 3;
+    part.vBC = valor("100");
+    part.pICMS = valor("12");
+    part.vICMS = valor("12");
+    part.modBCST = 4;
+    part.vBCST = valor("140");
+    part.pICMSST = valor("18");
+    part.vICMSST = valor("13.2");
+    part.pBCOp = valor("100");
+    part.UFST = 35;
+    imposto_do_primeiro_item(arvore).ICMS_ou_ISSQN = grupo::ICMS{part};
+    EXPECT_EQ(escrito(arvore, "det", "ICMS"),
+              "<ICMS><ICMSPart><orig>0</orig><CST>10</CST><modBC>3</modBC><vBC>100.00</vBC><pICMS>12.0000</pICMS>"
+              "<vICMS>12.00</vICMS><modBCST>4</modBCST><vBCST>140.00</vBCST><pICMSST>18.0000</pICMSST>"
+              "<vICMSST>13.20</vICMSST><pBCOp>100.0000</pBCOp><UFST>35</UFST></ICMSPart></ICMS>");
+}
+
+TEST(escrever_outras_fontes, transport_with_withheld_icms_trailers_ferry_and_seals)
+{
+    layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
+    arvore.transp.retTransp = grupo::retTransp{valor("300"), valor("300"), valor("12"), valor("36"), 5352, 3509502};
+    arvore.transp.veicTransp.reset();
+    arvore.transp.reboque = {grupo::veicTransp{"ABC1D23", "SP", {}}};
+    arvore.transp.balsa = "BALSA RIO NEGRO 7";
+    arvore.transp.vol.at(0).lacres = {grupo::lacres{"L-001"}, grupo::lacres{"L-002"}};
+    std::string const transp = velk::test::grupo(documento_de(arvore), "transp");
+    EXPECT_NE(transp.find("</transporta><retTransp><vServ>300.00</vServ><vBCRet>300.00</vBCRet>"
+                          "<pICMSRet>12.0000</pICMSRet><vICMSRet>36.00</vICMSRet><CFOP>5352</CFOP>"
+                          "<cMunFG>3509502</cMunFG></retTransp><reboque><placa>ABC1D23</placa><UF>SP</UF></reboque>"
+                          "<balsa>BALSA RIO NEGRO 7</balsa><vol>"),
+              std::string::npos)
+        << transp;
+    EXPECT_NE(transp.find("<pesoB>41.200</pesoB><lacres><nLacre>L-001</nLacre></lacres><lacres><nLacre>L-002"
+                          "</nLacre></lacres></vol>"),
+              std::string::npos)
+        << transp;
+}
+
+TEST(escrever_outras_fontes, purchase_and_sugar_cane)
+{
+    layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
+    arvore.compra = grupo::compra{"NE 2024/0042", "4500012345", {}};
+    grupo::cana& cana = arvore.cana.emplace();
+    cana.safra = "2024/2025";
+    cana.ref = "05/2024";
+    cana.forDia = {grupo::forDia{1, valor("12.5")}, grupo::forDia{2, valor("10")}};
+    cana.qTotMes = valor("22.5");
+    cana.qTotAnt = valor("100");
+    cana.qTotGer = valor("122.5");
+    cana.deduc = {grupo::deduc{"FUNRURAL", valor("15.3")}};
+    cana.vFor = valor("2250");
+    cana.vTotDed = valor("15.3");
+    cana.vLiqFor = valor("2234.7");
+    velk::xml::document const documento = documento_de(arvore);
+    EXPECT_EQ(velk::test::grupo(documento, "compra"),
+              "<compra><xNEmp>NE 2024/0042</xNEmp><xPed>4500012345</xPed></compra>");
+    EXPECT_EQ(velk::test::grupo(documento, "cana"),
+              "<cana><safra>2024/2025</safra><ref>05/2024</ref><forDia dia=\"1\"><qtde>12.5000000000</qtde></forDia>"
+              "<forDia dia=\"2\"><qtde>10.0000000000</qtde></forDia><qTotMes>22.5000000000</qTotMes>"
+              "<qTotAnt>100.0000000000</qTotAnt><qTotGer>122.5000000000</qTotGer><deduc><xDed>FUNRURAL</xDed>"
+              "<vDed>15.30</vDed></deduc><vFor>2250.00</vFor><vTotDed>15.30</vTotDed><vLiqFor>2234.70</vLiqFor>"
+              "</cana>");
+}
+
+// The errors of the official schema for a note, signed as it is sent.
+std::string erros_do_esquema(layout::layout_4_00 const& arvore)
+{
+    auto const& certificados = velk::test::test_certificates::instance();
+    stack report;
+    auto const certificado =
+        velk::cryptography::pkcs12::from_byte_array(certificados.pkcs12(), certificados.password(), report);
+    documento_fiscal nota = documento_fiscal::from_xml(documento_de(arvore), report);
+    nota.assinar(certificado, report);
+    EXPECT_FALSE(report.has_failed()) << report.to_string();
+    velk::xml::document documento;
+    documento.append_node(nota.get_xml(), report);
+    std::string erros;
+    for (std::string const& erro :
+         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", documento)) {
+        erros += erro + "\n";
+    }
+    return erros;
+}
+
+// An output of this layout that the schema refuses: what is written, and the
+// tag that the schema names.
+struct fora_do_esquema {
+    char const* caso;
+    std::function<void(layout::layout_4_00&)> alterar;
+    char const* grupo;
+    char const* tag;
+    char const* escrito;
+    char const* recusado;
+};
+
+void PrintTo(fora_do_esquema const& caso, std::ostream* saida)
+{
+    *saida << caso.caso;
+}
+
+velk::erp::fiscal::nota_fiscal do_corpus(std::string const& nome)
+{
+    for (auto const& nota : velk::test::corpus_notas()) {
+        if (nota.nome == nome) {
+            return nota.criar();
+        }
+    }
+    ADD_FAILURE() << "no note " << nome;
+    return {};
+}
+
+// A change in the model builds the tree anew; a member that only other
+// sources fill is changed in the tree of the export note.
+
+std::vector<fora_do_esquema> const casos_fora_do_esquema = {
+    {"card without integration type",
+     [](layout::layout_4_00& a) {
+         velk::erp::fiscal::nota_fiscal nota = velk::test::nota_nfce_simples();
+         nota.set_informacoes_pagamento(velk::erp::fiscal::informacoes_pagamento().set_detalhes_pagamento(
+             {velk::erp::fiscal::detalhes_pagamento()
+                  .set_meio_pagamento(velk::erp::fiscal::meio_pagamento::cartao_debito)
+                  .set_valor_pagamento(valor("53.21"))
+                  .set_transacao_tef(velk::erp::fiscal::transacao_tef())}));
+         a = arvore_de(nota);
+     },
+     "pag", "card", "<card><tpIntegra>0</tpIntegra></card>", "tpIntegra"},
+    {"code of special regime of two digits",
+     [](layout::layout_4_00& a) {
+         velk::erp::fiscal::nota_fiscal nota = do_corpus("nfe_sp_servico");
+         velk::erp::fiscal::total_nfe total = nota.get_total_nfe();
+         velk::erp::fiscal::total_nfe_issqn issqn = *total.get_total_issqn();
+         nota.set_total_nfe(total.set_total_issqn(issqn.set_codigo_regime_tributacao(1)));
+         a = arvore_de(nota);
+     },
+     "total", "cRegTrib", "<cRegTrib>01</cRegTrib>", "cRegTrib"},
+    {"place of dispatch",
+     [](layout::layout_4_00& a) {
+         velk::erp::fiscal::nota_fiscal nota = do_corpus("nfe_sp_exportacao");
+         nota.set_comercio_exterior(nota.get_comercio_exterior()->set_local_despacho("RECINTO ALFANDEGADO FRANCA"));
+         a = arvore_de(nota);
+     },
+     "exporta", "xLocDesp", "<xLocDesp>RECINTO ALFANDEGADO FRANCA</xLocDesp>", "xLocDesp"},
+    {"export detail without values",
+     [](layout::layout_4_00& a) {
+         a.det.at(0).prod.detExport = {grupo::detExport{{}, grupo::exportInd{}}};
+     },
+     "det", "detExport", "<detExport><exportInd/></detExport>", "exportInd"},
+    {"observation field as an element",
+     [](layout::layout_4_00& a) {
+         a.infAdic->obsCont = {grupo::observacao{"Pedido", "4500012345"}};
+     },
+     "infAdic", "obsCont", "<obsCont><xCampo>Pedido</xCampo><xTexto>4500012345</xTexto></obsCont>", "xCampo"},
+    {"state of substitution as a number",
+     [](layout::layout_4_00& a) {
+         grupo::ICMSPart part;
+         part.CST = 90;
+         part.UFST = 35;
+         a.det.at(0).imposto.ICMS_ou_ISSQN = grupo::ICMS{part};
+     },
+     "det", "UFST", "<UFST>35</UFST>", "UFST"},
+    {"COFINS by substitution without its value",
+     [](layout::layout_4_00& a) {
+         a.det.at(0).imposto.COFINSST = grupo::COFINSST{grupo::COFINS_aliquota{valor("100"), valor("7.6")}, {}};
+     },
+     "det", "COFINSST", "<COFINSST><vBC>100.00</vBC><pCOFINS>7.6000</pCOFINS></COFINSST>", "COFINSST"},
+    {"COFINS by substitution with a base in units of two places",
+     [](layout::layout_4_00& a) {
+         a.det.at(0).imposto.COFINSST =
+             grupo::COFINSST{grupo::COFINS_quantidade{valor("1.5"), valor("3.6")}, valor("5.4")};
+     },
+     "det", "qBCProd", "<qBCProd>1.50</qBCProd>", "qBCProd"},
+    {"ISSQN before IPI",
+     [](layout::layout_4_00& a) {
+         velk::erp::fiscal::nota_fiscal nota = do_corpus("nfe_sp_servico");
+         velk::test::no_produto(nota, 1, [](velk::erp::fiscal::produto& p) {
+             p.set_tributacao_ipi(velk::erp::fiscal::tributacao_ipi().set_classe_enquadramento_ipi("999").set_cst_ipi(
+                 velk::erp::fiscal::cst_ipi::cst_53));
+         });
+         a = arvore_de(nota);
+     },
+     "det", "IPINT", "<IPINT><CST>53</CST></IPINT>", "IPI"},
+};
+
+class escrever_fora_do_esquema : public testing::TestWithParam<fora_do_esquema> {};
+
+TEST_P(escrever_fora_do_esquema, writes_what_the_layout_says_and_the_schema_refuses_it)
+{
+    fora_do_esquema const& caso = GetParam();
+    layout::layout_4_00 arvore = arvore_de(do_corpus("nfe_sp_exportacao"));
+    caso.alterar(arvore);
+    std::string todos;
+    for (std::string const& texto : velk::test::grupos(documento_de(arvore), caso.grupo)) {
+        todos += texto;
+    }
+    EXPECT_NE(todos.find(caso.escrito), std::string::npos) << todos;
+    std::string const erros = erros_do_esquema(arvore);
+    EXPECT_NE(erros.find(std::string("}") + caso.recusado + "'"), std::string::npos) << erros;
+}
+
+INSTANTIATE_TEST_SUITE_P(casos, escrever_fora_do_esquema, testing::ValuesIn(casos_fora_do_esquema));
+
+}  // namespace

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <velk/erp/fiscal/nota_fiscal.hpp>
+
+namespace velk::demo {
+
+// The demo's own sales, as an application fills the fiscal model: the issuer
+// is the holder of the demo's throw-away certificate.
+
+// An NFC-e of a shop in São Paulo: two items, a card payment and cash with
+// change, in homologation.
+erp::fiscal::nota_fiscal demo_nfce();
+
+// An NF-e of the same shop to a company in Campinas: goods with IPI, ICMS by
+// substitution, a carrier and a bill in two instalments.
+erp::fiscal::nota_fiscal demo_nfe();
+
+}  // namespace velk::demo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <velk/core/decimal.hpp>
+#include <velk/core/optional.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/FCP.hpp>
+#include <velk/erp/tarn/nfe/layout_4_00/grupo/FCPST.hpp>
+
+#include <cstdint>
+
+namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
+
+// ICMS taxed, with ICMS by substitution.
+struct ICMS10 {
+    std::uint16_t orig = 0;
+    std::uint16_t CST = 0;
+    std::uint16_t modBC = 0;
+    core::decimal vBC;
+    core::decimal pICMS;
+    core::decimal vICMS;
+    core::optional<grupo::FCP> FCP;
+    std::uint16_t modBCST = 0;
+    core::optional<core::decimal> pMVAST;
+    core::optional<core::decimal> pRedBCST;
+    core::decimal vBCST;
+    core::decimal pICMSST;
+    core::decimal vICMSST;
+    core::optional<grupo::FCPST> FCPST;
+};
+
+}  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo
