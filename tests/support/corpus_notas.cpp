@@ -10,11 +10,11 @@ namespace velk::test {
 using namespace erp::fiscal;
 
 std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj, unsigned modelo, unsigned serie,
-                         unsigned numero, unsigned codigo)
+                         unsigned numero, unsigned codigo, unsigned tp_emis)
 {
     char base[44];
-    std::snprintf(base, sizeof base, "%02u%04u%.14s%02u%03u%09u1%08u", uf, ano_mes, cnpj.c_str(), modelo, serie, numero,
-                  codigo);
+    std::snprintf(base, sizeof base, "%02u%04u%.14s%02u%03u%09u%1u%08u", uf, ano_mes, cnpj.c_str(), modelo, serie,
+                  numero, tp_emis, codigo);
     // Modulo 11 with weights 2 to 9 from the right; remainders 0 and 1 give 0.
     unsigned soma = 0;
     unsigned peso = 2;

@@ -1,43 +1,31 @@
 #include <support/nfce_texto.hpp>
 
+#include <support/corpus_notas.hpp>
+
+#include <cstdio>
+
 namespace velk::test {
 
 namespace {
 
 constexpr char cnpj_emitente[] = "27164983000158";
 
-std::string zeros_a_esquerda(std::string const& texto, std::size_t largura)
-{
-    return texto.size() >= largura ? texto : std::string(largura - texto.size(), '0') + texto;
-}
-
 }  // namespace
-
-char digito_chave(std::string const& digitos_43)
-{
-    int soma = 0;
-    int peso = 2;
-    for (auto it = digitos_43.rbegin(); it != digitos_43.rend(); ++it) {
-        soma += (*it - '0') * peso;
-        peso = peso == 9 ? 2 : peso + 1;
-    }
-    int const resto = soma % 11;
-    return static_cast<char>('0' + (resto < 2 ? 0 : 11 - resto));
-}
 
 nfce_teste nfce_texto(nfce_campos const& c)
 {
-    std::string const tp_emis = c.contingencia_offline ? "9" : "1";
-    std::string const ano_mes = c.dh_emi.substr(2, 2) + c.dh_emi.substr(5, 2);
-    std::string const base = c.cuf + ano_mes + cnpj_emitente + "65" + "001" + zeros_a_esquerda(c.nnf, 9) + tp_emis +
-                             zeros_a_esquerda(c.cnf, 8);
-    char const dv = digito_chave(base);
-    std::string const chave = base + dv;
+    unsigned const tp_emis = c.contingencia_offline ? 9 : 1;
+    unsigned const ano_mes = static_cast<unsigned>(std::stoi(c.dh_emi.substr(2, 2) + c.dh_emi.substr(5, 2)));
+    std::string const chave = chave_acesso(c.cuf, ano_mes, cnpj_emitente, 65, 1, c.nnf, c.cnf, tp_emis);
+    char cnf[9];
+    std::snprintf(cnf, sizeof cnf, "%08u", c.cnf);
 
-    std::string ide = "<ide><cUF>" + c.cuf + "</cUF><cNF>" + zeros_a_esquerda(c.cnf, 8) +
-                      "</cNF><natOp>VENDA</natOp><mod>65</mod><serie>1</serie><nNF>" + c.nnf + "</nNF><dhEmi>" +
+    std::string ide = "<ide><cUF>" + std::to_string(c.cuf) + "</cUF><cNF>" + cnf +
+                      "</cNF><natOp>VENDA</natOp><mod>65</mod><serie>1</serie><nNF>" + std::to_string(c.nnf) +
+                      "</nNF><dhEmi>" +
                       c.dh_emi + "</dhEmi><tpNF>1</tpNF><idDest>1</idDest><cMunFG>" + c.municipio +
-                      "</cMunFG><tpImp>4</tpImp><tpEmis>" + tp_emis + "</tpEmis><cDV>" + dv + "</cDV><tpAmb>" +
+                      "</cMunFG><tpImp>4</tpImp><tpEmis>" + std::to_string(tp_emis) + "</tpEmis><cDV>" + chave.back() +
+                      "</cDV><tpAmb>" +
                       std::to_string(c.tp_amb) +
                       "</tpAmb><finNFe>1</finNFe><indFinal>1</indFinal><indPres>1</indPres><procEmi>0</procEmi>"
                       "<verProc>velk-teste</verProc>";

@@ -10,14 +10,14 @@ namespace velk::test {
 // supplement. One item sold by a small grocery of the Simples Nacional; the
 // access key is built from the fields below with its check digit.
 struct nfce_campos {
-    std::string cuf = "35";           // IBGE code of the state (cUF and the key)
+    unsigned cuf = 35;                // IBGE code of the state (cUF and the key)
     std::string municipio = "3550308";
     std::string uf = "SP";
     int tp_amb = 2;                   // 1 production, 2 homologation
     bool contingencia_offline = false;  // tpEmis 9 in ide and in the key, with dhCont and xJust
     std::string dh_emi = "2024-06-05T18:42:37-03:00";
-    std::string nnf = "48213";
-    std::string cnf = "61938274";     // 8 digits
+    unsigned nnf = 48213;
+    unsigned cnf = 61938274;          // 8 digits
     // The tag and value of the consumer's identifier: "CPF", "CNPJ" or
     // "idEstrangeiro"; none when absent.
     std::optional<std::pair<std::string, std::string>> destinatario;
@@ -31,9 +31,5 @@ struct nfce_teste {
 };
 
 nfce_teste nfce_texto(nfce_campos const& campos);
-
-// The check digit of the first 43 digits of an access key (modulus 11,
-// weights 2 to 9 from the right).
-char digito_chave(std::string const& digitos_43);
 
 }  // namespace velk::test

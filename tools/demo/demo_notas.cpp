@@ -168,6 +168,21 @@ nota_fiscal demo_nfce()
             informacoes_adicionais().set_informacoes_complementares("Tributos aproximados: R$ 21,38 (Fonte: IBPT)."));
 }
 
+nota_fiscal demo_nfce_contingencia()
+{
+    return demo_nfce()
+        .set_chave_44_digitos("35240912345678000195650010000000029102938487")
+        .set_codigo_nf(10293848)
+        .set_numero(2)
+        .set_data_emissao(brasilia(2024, 9, 16, 10, 47))
+        .set_tipo_emissao(tipo_emissao::contingencia_offline_nfce)
+        .set_data_contingencia(brasilia(2024, 9, 16, 10, 40))
+        .set_justificativa_entrada_contingencia("SEM CONEXAO COM A SEFAZ AUTORIZADORA DE SAO PAULO")
+        .set_destinatario(destinatario()
+                              .set_cpf("12345678909")
+                              .set_indicador_de_ie(indicador_ie_destinatario::nao_contribuinte));
+}
+
 nota_fiscal demo_nfe()
 {
     // 10 kettles at 24.90 with IPI at 6.5%; ICMS by substitution of the

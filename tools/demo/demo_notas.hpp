@@ -11,6 +11,11 @@ namespace velk::demo {
 // change, in homologation.
 erp::fiscal::nota_fiscal demo_nfce();
 
+// The same sale issued while the authority could not be reached: offline
+// contingency (tpEmis 9 in ide and in the key), with the moment and the
+// reason, the next number, and the consumer named by CPF.
+erp::fiscal::nota_fiscal demo_nfce_contingencia();
+
 // An NF-e of the same shop to a company in Campinas: goods with IPI, ICMS by
 // substitution, a carrier and a bill in two instalments.
 erp::fiscal::nota_fiscal demo_nfe();

@@ -1,8 +1,8 @@
-#include "demo_notas_nfce.hpp"
+#include "demo_certificate.hpp"
+#include "demo_notas.hpp"
 #include "demo_steps.hpp"
 #include "demo_xml.hpp"
 
-#include <pki/certificate_authority.hpp>
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/url_consulta_qrcode.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
@@ -33,10 +33,10 @@ struct nfce_demo {
 };
 
 nfce_demo const notas[] = {
-    {"online", nota_nfce_online, "SP", "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta",
-     "NFC-e of a São Paulo grocery sent at once"},
-    {"contingencia", nota_nfce_contingencia, "PR", "http://www.fazenda.pr.gov.br/nfce/consulta",
-     "NFC-e of a Curitiba bakery issued in offline contingency (tpEmis 9)"},
+    {"online", demo_nfce, "SP", "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta",
+     "NFC-e of a shop in São Paulo sent at once"},
+    {"contingencia", demo_nfce_contingencia, "SP", "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta",
+     "The same sale issued in offline contingency (tpEmis 9), the consumer named by CPF"},
 };
 
 struct versao_demo {
@@ -57,11 +57,8 @@ void run_qrcode_step(demo_context& context)
     demo_context::say("QR code step: NFC-e generated from fiscal models, given their QR code and urlChave, signed");
     context.set_qrcode_secret(id_token, csc);
 
-    tools::pki::certificate_authority const authority("Velk Demo CA");
-    std::string const password = "demo";
     core::result::stack stack;
-    cryptography::pkcs12 const certificate = cryptography::pkcs12::from_byte_array(
-        authority.issue_client("EMPRESA DEMONSTRACAO LTDA:12345678000195").to_pkcs12(password), password, stack);
+    cryptography::pkcs12 const certificate = make_demo_certificate(stack);
     check(stack, "certificate");
 
     for (nfce_demo const& nfce : notas) {

@@ -9,12 +9,12 @@ namespace velk::demo {
 void run_signature_step(demo_context& context);
 // The signed document and the three query messages (consSitNFe, consReciNFe, consGTIN).
 void run_queries_step(demo_context& context);
-// NFC-e generated from notes, with the QR code in versions 1.00 and 2.00,
-// online and in offline contingency, and urlChave; signed.
-void run_qrcode_step(demo_context& context);
 // A status query through the local SEFAZ simulator, over mutual TLS.
 void run_status_step(demo_context& context);
 // An NFC-e and an NF-e of layout 4.00 generated from fiscal models and signed.
 void run_generation_step(demo_context& context);
+// NFC-e generated from notes, with the QR code in versions 1.00 and 2.00,
+// online and in offline contingency, and urlChave; signed.
+void run_qrcode_step(demo_context& context);
 
 }  // namespace velk::demo

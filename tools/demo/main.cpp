@@ -36,9 +36,9 @@ int main(int argc, char** argv)
     try {
         velk::demo::run_signature_step(context);
         velk::demo::run_queries_step(context);
-        velk::demo::run_qrcode_step(context);
         velk::demo::run_status_step(context);
         velk::demo::run_generation_step(context);
+        velk::demo::run_qrcode_step(context);
         context.write_manifest();
     } catch (velk::demo::demo_failure const& failure) {
         std::fprintf(stderr, "velk-demo: %s\n", failure.what.c_str());

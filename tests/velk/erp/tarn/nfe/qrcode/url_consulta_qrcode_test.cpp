@@ -144,7 +144,7 @@ TEST(url_consulta_qrcode, states_and_layouts_without_a_page)
 TEST(url_consulta_qrcode, reads_environment_layout_and_state_of_the_document)
 {
     velk::test::nfce_campos fields;
-    fields.cuf = "41";
+    fields.cuf = 41;
     fields.tp_amb = 1;
     std::string text = velk::test::nfce_texto(fields).texto;
     text.replace(text.find("versao=\"4.00\""), 13, "versao=\"3.10\"");

@@ -4,7 +4,7 @@
 
 #include <support/files.hpp>
 #include <support/nfce_texto.hpp>
-#include <support/notas_fiscais.hpp>
+#include <support/corpus_notas.hpp>
 #include <support/qrcode_esperado.hpp>
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
@@ -140,22 +140,45 @@ TEST(documento_fiscal_qrcode, a_signed_nfce_carries_the_qrcode_made_from_its_sig
     }
 }
 
-TEST(documento_fiscal_qrcode, a_generated_nfce_signs_and_validates_with_its_supplement)
+// Every NFC-e of the corpus, generated from its note, in both versions.
+TEST(documento_fiscal_qrcode, generated_nfce_sign_and_validate_with_their_supplement)
 {
-    stack s;
-    documento_fiscal document =
-        documento_fiscal::from_nota_fiscal(velk::test::nota_nfce_simples(), nfe::versao::versao_4_00, s);
-    ASSERT_FALSE(s.has_failed()) << s.to_string();
-    informacoes_adicionais const informacoes(versao_qrcode::versao_200, std::string(url_chave), pagina);
-    // urlChave first: the QR code still goes ahead of it.
-    document.adicionar_url_chave(informacoes);
-    document.gerar_qrcode(informacoes, "000001", csc, s);
-    document.assinar(taxpayer(), s);
-    ASSERT_FALSE(s.has_failed()) << s.to_string();
-    std::string const key = "35240527164983000158650010000482131619382749";
-    std::string const expected = std::string(pagina) + "p=" + key + "|2|2|1|" +
-                                 velk::test::sha1_maiusculo(key + "|2|2|1" + csc);
-    expect_signed_nfce(document, expected);
+    velk::cryptography::pkcs12 const certificate = taxpayer();
+    int nfce = 0;
+    for (velk::test::nota_do_corpus const& nota : velk::test::corpus_notas()) {
+        if (nota.criar().get_modelo_emissao() != "65") {
+            continue;
+        }
+        ++nfce;
+        for (versao_qrcode const version : {versao_qrcode::versao_100, versao_qrcode::versao_200}) {
+            SCOPED_TRACE(nota.nome + (version == versao_qrcode::versao_100 ? " 1.00" : " 2.00"));
+            stack s;
+            documento_fiscal document =
+                documento_fiscal::from_nota_fiscal(nota.criar(), nfe::versao::versao_4_00, s);
+            ASSERT_FALSE(s.has_failed()) << s.to_string();
+            informacoes_adicionais const informacoes(version, std::string(url_chave), pagina);
+            // urlChave first: the QR code still goes ahead of it.
+            document.adicionar_url_chave(informacoes);
+            document.gerar_qrcode(informacoes, "000001", csc, s);
+            document.assinar(certificate, s);
+            ASSERT_FALSE(s.has_failed()) << s.to_string();
+
+            velk::test::qrcode_entrada const entrada{
+                velk::core::make_string(document.get_chave_acesso(), s),
+                document.get_ambiente() == velk::erp::tarn::ambiente::producao ? 1 : 2,
+                document.get_identificador_destinatario(),
+                velk::core::make_string(document.get_data_hora_emissao(), s),
+                document.get_valor_total(),
+                document.get_valor_icms(),
+                document.get_chave_acesso().get_tipo_emissao() ==
+                    velk::erp::fiscal::tipo_emissao::contingencia_offline_nfce,
+                document.get_digest_value()};
+            expect_signed_nfce(document, pagina + (version == versao_qrcode::versao_100
+                                                       ? velk::test::qrcode_esperado_100(entrada, "000001", csc)
+                                                       : velk::test::qrcode_esperado_200(entrada, "1", csc)));
+        }
+    }
+    EXPECT_GE(nfce, 2);
 }
 
 TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_empty_supplement)
