@@ -2,7 +2,6 @@
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
 
 #include <support/files.hpp>
-#include <support/nfce_texto.hpp>
 #include <velk/core/converter_result_category.hpp>
 
 #include <gtest/gtest.h>
@@ -139,22 +138,6 @@ TEST(url_consulta_qrcode, states_and_layouts_without_a_page)
         EXPECT_EQ(s.get_value(), current.code);
         EXPECT_EQ(s.top().get_arguments(), current.expected);
     }
-}
-
-TEST(url_consulta_qrcode, reads_environment_layout_and_state_of_the_document)
-{
-    velk::test::nfce_campos fields;
-    fields.cuf = 41;
-    fields.tp_amb = 1;
-    std::string text = velk::test::nfce_texto(fields).texto;
-    text.replace(text.find("versao=\"4.00\""), 13, "versao=\"3.10\"");
-    stack s;
-    velk::xml::document tree;
-    tree.load(velk::core::byte_array(text), s);
-    auto const document = nfe::sefaz_data::requisicao::documento_fiscal::from_xml(tree, s);
-    EXPECT_EQ(nfe::detail::obter_url_consulta_qrcode(document, s),
-              "http://www.dfeportal.fazenda.pr.gov.br/dfe-portal/rest/servico/consultaNFCe?");
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
 }
 
 }  // namespace
