@@ -13,21 +13,12 @@ namespace {
 
 namespace layout = velk::erp::tarn::nfe::layout_4_00;
 using velk::core::result::stack;
+using velk::test::arvore_de;
 
-layout::layout_4_00 arvore_de(velk::erp::fiscal::nota_fiscal const& nota)
-{
-    stack report;
-    layout::layout_4_00 arvore = layout::montar_layout_4_00(nota, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return arvore;
-}
-
+// The first group of that name in the tree's document.
 std::string escrito(layout::layout_4_00 const& arvore, std::string const& tag)
 {
-    stack report;
-    velk::xml::document const documento = layout::escrever_layout_4_00(arvore, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return velk::test::grupos(documento, tag).at(0);
+    return velk::test::grupos(velk::test::documento_de(arvore), tag).at(0);
 }
 
 TEST(escrever_arvore, the_manufacturers_cnpj_is_written_as_CNPJ)

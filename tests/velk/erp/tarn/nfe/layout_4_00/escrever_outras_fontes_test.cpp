@@ -23,35 +23,10 @@ namespace layout = velk::erp::tarn::nfe::layout_4_00;
 namespace grupo = velk::erp::tarn::nfe::layout_4_00::grupo;
 using velk::core::result::stack;
 using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::test::arvore_de;
+using velk::test::documento_de;
+using velk::test::escrito;
 using velk::test::valor;
-
-layout::layout_4_00 arvore_de(velk::erp::fiscal::nota_fiscal const& nota)
-{
-    stack report;
-    layout::layout_4_00 arvore = layout::montar_layout_4_00(nota, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return arvore;
-}
-
-velk::xml::document documento_de(layout::layout_4_00 const& arvore)
-{
-    stack report;
-    velk::xml::document documento = layout::escrever_layout_4_00(arvore, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return documento;
-}
-
-std::string escrito(layout::layout_4_00 const& arvore, std::string const& grupo_raiz, std::string const& tag)
-{
-    std::string todos;
-    for (std::string const& texto : velk::test::grupos(documento_de(arvore), grupo_raiz)) {
-        todos += texto;
-    }
-    std::string const fecha = "</" + tag + ">";
-    auto const inicio = todos.find("<" + tag + ">");
-    return inicio == std::string::npos ? std::string()
-                                       : todos.substr(inicio, todos.find(fecha, inicio) + fecha.size() - inicio);
-}
 
 grupo::imposto& imposto_do_primeiro_item(layout::layout_4_00& arvore)
 {
@@ -172,18 +147,13 @@ TEST(escrever_outras_fontes, purchase_and_sugar_cane)
 // The errors of the official schema for a note, signed as it is sent.
 std::string erros_do_esquema(layout::layout_4_00 const& arvore)
 {
-    auto const& certificados = velk::test::test_certificates::instance();
     stack report;
-    auto const certificado =
-        velk::cryptography::pkcs12::from_byte_array(certificados.pkcs12(), certificados.password(), report);
     documento_fiscal nota = documento_fiscal::from_xml(documento_de(arvore), report);
-    nota.assinar(certificado, report);
+    nota.assinar(velk::test::taxpayer_pkcs12(), report);
     EXPECT_FALSE(report.has_failed()) << report.to_string();
-    velk::xml::document documento;
-    documento.append_node(nota.get_xml(), report);
     std::string erros;
     for (std::string const& erro :
-         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", documento)) {
+         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", nota.get_xml())) {
         erros += erro + "\n";
     }
     return erros;
@@ -295,10 +265,7 @@ TEST_P(escrever_fora_do_esquema, writes_what_the_layout_says_and_the_schema_refu
     fora_do_esquema const& caso = GetParam();
     layout::layout_4_00 arvore = arvore_de(do_corpus("nfe_sp_exportacao"));
     caso.alterar(arvore);
-    std::string todos;
-    for (std::string const& texto : velk::test::grupos(documento_de(arvore), caso.grupo)) {
-        todos += texto;
-    }
+    std::string const todos = velk::test::texto_dos_grupos(documento_de(arvore), caso.grupo);
     EXPECT_NE(todos.find(caso.escrito), std::string::npos) << todos;
     std::string const erros = erros_do_esquema(arvore);
     EXPECT_NE(erros.find(std::string("}") + caso.recusado + "'"), std::string::npos) << erros;

@@ -15,19 +15,15 @@
 namespace {
 
 using namespace velk::erp::fiscal;
+using velk::test::com_ipi;
 using velk::test::documento_de;
 using velk::test::elemento_em;
 using velk::test::no_destinatario;
 using velk::test::no_emitente;
 using velk::test::no_endereco_emitente;
+using velk::test::no_primeiro_produto;
+using velk::test::tributar;
 using velk::test::valor;
-
-// The first item: the medicine.
-template <class Alterar>
-void no_primeiro_produto(nota_fiscal& nota, Alterar alterar)
-{
-    velk::test::no_produto(nota, 0, alterar);
-}
 
 struct escrita {
     char const* caso;
@@ -254,11 +250,6 @@ std::vector<escrita> const escritas = {
 
 // The taxes and closing groups.
 
-void tributar(nota_fiscal& nota, tributacao_produto tributacao)
-{
-    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao(std::move(tributacao)); });
-}
-
 template <class Grupo>
 Grupo origem_nacional(Grupo grupo)
 {
@@ -280,11 +271,6 @@ tributacao_st_icms_90 st_90()
         .set_valor_icms_st(valor("7.2"))
         .set_fcp_st_retido(grupo_fcp_st_retido().set_valor_bc(valor("140")).set_percentual(valor("2")).set_valor(
             valor("2.8")));
-}
-
-void com_ipi(nota_fiscal& nota, tributacao_ipi ipi)
-{
-    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao_ipi(std::move(ipi)); });
 }
 
 void com_pis_cofins(nota_fiscal& nota, tributacao_pis_cofins tributacao)
@@ -802,10 +788,7 @@ TEST_P(escrever_valor, in_the_form_of_its_tag)
     escrita const& caso = GetParam();
     nota_fiscal nota = velk::test::nota_nfe_completa();
     caso.alterar(nota);
-    std::string todos;
-    for (std::string const& grupo : velk::test::grupos(documento_de(nota), caso.grupo)) {
-        todos += grupo;
-    }
+    std::string const todos = velk::test::texto_dos_grupos(documento_de(nota), caso.grupo);
     ASSERT_FALSE(todos.empty()) << caso.grupo;
     EXPECT_EQ(elemento_em(todos, caso.tag), caso.esperado) << todos;
 }

@@ -14,21 +14,12 @@ namespace {
 
 using namespace velk::erp::fiscal;
 using velk::test::bruto;
+using velk::test::com_ipi;
 using velk::test::conversor;
+using velk::test::no_primeiro_produto;
 using velk::test::recusa;
+using velk::test::tributar;
 using velk::test::valor;
-
-// The tax of the first item, the medicine, replaced.
-void tributar(nota_fiscal& nota, tributacao_produto tributacao)
-{
-    velk::test::no_produto(nota, 0, [&](produto& p) { p.set_tributacao(std::move(tributacao)); });
-}
-
-template <class Alterar>
-void no_primeiro_produto(nota_fiscal& nota, Alterar alterar)
-{
-    velk::test::no_produto(nota, 0, alterar);
-}
 
 // Groups with every required value, for the cases to take one away.
 grupo_tributacao_icms_00 icms00()
@@ -99,11 +90,6 @@ tributacao_ipi ipi_por_aliquota()
         .set_tributacao_ipi_calculo_aliquota(
             tributacao_ipi_calculo_aliquota().set_valor_bc_ipi(valor("100.00")).set_aliquota_ipi(valor("10.00")))
         .set_valor_ipi(valor("10.00"));
-}
-
-void com_ipi(nota_fiscal& nota, tributacao_ipi ipi)
-{
-    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao_ipi(ipi); });
 }
 
 template <class Pis>
