@@ -8,21 +8,26 @@ namespace velk::test {
 
 using namespace erp::fiscal;
 
+char digito_chave(std::string_view primeiros_43)
+{
+    // Modulo 11 with weights 2 to 9 from the right; remainders 0 and 1 give 0.
+    unsigned soma = 0;
+    unsigned peso = 2;
+    for (auto posicao = primeiros_43.rbegin(); posicao != primeiros_43.rend(); ++posicao) {
+        soma += static_cast<unsigned>(*posicao - '0') * peso;
+        peso = peso == 9 ? 2 : peso + 1;
+    }
+    unsigned const resto = soma % 11;
+    return static_cast<char>('0' + (resto < 2 ? 0 : 11 - resto));
+}
+
 std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj, unsigned modelo, unsigned serie,
                          unsigned numero, unsigned codigo, unsigned tp_emis)
 {
     char base[44];
     std::snprintf(base, sizeof base, "%02u%04u%.14s%02u%03u%09u%1u%08u", uf, ano_mes, cnpj.c_str(), modelo, serie,
                   numero, tp_emis, codigo);
-    // Modulo 11 with weights 2 to 9 from the right; remainders 0 and 1 give 0.
-    unsigned soma = 0;
-    unsigned peso = 2;
-    for (int posicao = 42; posicao >= 0; --posicao) {
-        soma += static_cast<unsigned>(base[posicao] - '0') * peso;
-        peso = peso == 9 ? 2 : peso + 1;
-    }
-    unsigned const resto = soma % 11;
-    return std::string(base) + static_cast<char>('0' + (resto < 2 ? 0 : 11 - resto));
+    return std::string(base) + digito_chave(base);
 }
 
 endereco local(char const* logradouro, char const* numero, char const* bairro, std::uint32_t municipio,

@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velk::test {
@@ -15,6 +16,9 @@ namespace velk::test {
 using erp::fiscal::cst_pis_cofins_nao_tributado;
 using erp::fiscal::cst_pis_cofins_outras_operacoes;
 using erp::fiscal::origem_mercadoria;
+
+// The check digit of an access key, from its first 43 digits.
+char digito_chave(std::string_view primeiros_43);
 
 // The access key of a note, with its check digit: state code, year and
 // month, issuer's CNPJ, model, series, number, the random code, and the

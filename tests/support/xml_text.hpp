@@ -7,11 +7,13 @@
 #include <velk/core/result/stack.hpp>
 #include <velk/xml/document.hpp>
 #include <velk/xml/element.hpp>
+#include <velk/xml/node.hpp>
 
 #include <gtest/gtest.h>
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velk::test {
 
@@ -51,6 +53,18 @@ inline std::string saved_text(xml::document const& value)
 inline std::string saved_text(xml::element const& root)
 {
     return saved_text(document_of(root));
+}
+
+// The names of the element's child elements, in order.
+inline std::vector<std::string> child_element_names(xml::element const& parent)
+{
+    std::vector<std::string> names;
+    for (xml::node const& child : parent.get_node_range()) {
+        if (child.as_element() != nullptr) {
+            names.push_back(child.as_element()->get_name());
+        }
+    }
+    return names;
 }
 
 }  // namespace velk::test

@@ -33,21 +33,6 @@ using velk::test::parse_or_fail;
 using dest = std::pair<std::string, std::string>;
 using arguments = std::vector<std::pair<std::string, std::string>>;
 
-nfce_campos campos(unsigned cuf, int tp_amb, bool offline, std::optional<dest> destinatario,
-                   std::string dh_emi = "2024-06-05T18:42:37-03:00", std::string vnf = "37.80",
-                   std::string vicms = "0.00")
-{
-    nfce_campos c;
-    c.cuf = cuf;
-    c.tp_amb = tp_amb;
-    c.contingencia_offline = offline;
-    c.destinatario = std::move(destinatario);
-    c.dh_emi = std::move(dh_emi);
-    c.vnf = std::move(vnf);
-    c.vicms = std::move(vicms);
-    return c;
-}
-
 struct corpus_case {
     char const* name;
     nfce_campos fields;
@@ -58,22 +43,24 @@ struct corpus_case {
 };
 
 std::vector<corpus_case> const corpus = {
-    {"online, homologation, no consumer, token with zeros", campos(35, 2, false, std::nullopt), "000001", "1",
+    {"online, homologation, no consumer, token with zeros", {.cuf = 35, .tp_amb = 2}, "000001", "1",
      "8DC7D1F3A0B94E6C9F2A41D07E5B3C18A6F0", "https://www.homologacao.nfce.fazenda.sp.gov.br/qrcode?"},
-    {"online, homologation, CPF", campos(35, 2, false, dest{"CPF", "12345678909"}), "123456", "123456",
+    {"online, homologation, CPF", {.destinatario = dest{"CPF", "12345678909"}}, "123456", "123456",
      "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C", "http://consulta.teste/qrcode?"},
-    {"online, production, CNPJ, one zero", campos(41, 1, false, dest{"CNPJ", "11222333000181"}), "012345", "12345",
-     "F00DFACE1234567890ABCDEF1234567890AB", "http://www.fazenda.pr.gov.br/nfce/qrcode?"},
-    {"offline, homologation, no consumer, token of zeros", campos(41, 2, true, std::nullopt), "000000", "000000",
-     "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
-    {"offline, production, foreigner, day 09", campos(43, 1, true, dest{"idEstrangeiro", "AB1234567"},
-                                                       "2024-11-09T07:05:00-03:00", "1234.56", "12.34"),
+    {"online, production, CNPJ, one zero", {.cuf = 41, .tp_amb = 1, .destinatario = dest{"CNPJ", "11222333000181"}},
+     "012345", "12345", "F00DFACE1234567890ABCDEF1234567890AB", "http://www.fazenda.pr.gov.br/nfce/qrcode?"},
+    {"offline, homologation, no consumer, token of zeros", {.cuf = 41, .contingencia_offline = true}, "000000",
+     "000000", "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
+    {"offline, production, foreigner, day 09",
+     {.cuf = 43, .tp_amb = 1, .contingencia_offline = true, .dh_emi = "2024-11-09T07:05:00-03:00",
+      .destinatario = dest{"idEstrangeiro", "AB1234567"}, .vnf = "1234.56", .vicms = "12.34"},
      "000123", "123", "ZYXWVUTSRQPONMLKJIHGFEDCBA9876543210", "https://www.sefaz.rs.gov.br/NFCE/NFCE-COM.aspx?"},
-    {"offline, homologation, CPF, last day, Noronha", campos(26, 2, true, dest{"CPF", "98765432100"},
-                                                              "2024-12-31T23:59:59-02:00", "0.50", "0.09"),
+    {"offline, homologation, CPF, last day, Noronha",
+     {.cuf = 26, .contingencia_offline = true, .dh_emi = "2024-12-31T23:59:59-02:00",
+      .destinatario = dest{"CPF", "98765432100"}, .vnf = "0.50", .vicms = "0.09"},
      "900000", "900000", "csc-em-minusculas-0123456789abcdefghi", "http://app.sefaz.es.gov.br/ConsultaNFCe/"},
-    {"online, production, CPF, token of one digit", campos(35, 1, false, dest{"CPF", "52998224725"}), "000009",
-     "9", "1234", "x?"},
+    {"online, production, CPF, token of one digit", {.tp_amb = 1, .destinatario = dest{"CPF", "52998224725"}},
+     "000009", "9", "1234", "x?"},
 };
 
 TEST(obter_url_qrcode, corpus_gives_the_published_formula_in_both_versions)
@@ -151,8 +138,7 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
     };
     for (failure_case const& current : cases) {
         SCOPED_TRACE(current.name);
-        nfce_campos fields;
-        fields.contingencia_offline = current.offline;
+        nfce_campos const fields{.contingencia_offline = current.offline};
         stack s;
         std::string const url =
             nfe::obter_url_qrcode(informacoes_adicionais(current.version, std::nullopt, "http://pagina?"),
@@ -180,11 +166,9 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
 TEST(qrcode_generators, refuse_a_digest_of_the_wrong_length_only_where_they_write_it)
 {
     char const* const csc = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
-    nfce_campos online;
-    nfce_campos offline;
-    offline.contingencia_offline = true;
-    documento_fiscal const online_document = documento_de_texto(velk::test::nfce_texto(online).texto);
-    documento_fiscal const offline_document = documento_de_texto(velk::test::nfce_texto(offline).texto);
+    documento_fiscal const online_document = documento_de_texto(velk::test::nfce_texto({}).texto);
+    documento_fiscal const offline_document =
+        documento_de_texto(velk::test::nfce_texto({.contingencia_offline = true}).texto);
 
     struct {
         char const* name;

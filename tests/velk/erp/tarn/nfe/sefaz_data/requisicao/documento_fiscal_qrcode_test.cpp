@@ -97,9 +97,7 @@ TEST(documento_fiscal_qrcode, a_signed_nfce_carries_the_qrcode_made_from_its_sig
     velk::cryptography::pkcs12 const& certificate = taxpayer_pkcs12();
     for (signing_case const& current : cases) {
         SCOPED_TRACE(current.name);
-        velk::test::nfce_campos fields;
-        fields.contingencia_offline = current.offline;
-        fields.destinatario = current.consumer;
+        velk::test::nfce_campos const fields{.contingencia_offline = current.offline, .destinatario = current.consumer};
         velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
         documento_fiscal document = documento_de_texto(nfce.texto);
 
