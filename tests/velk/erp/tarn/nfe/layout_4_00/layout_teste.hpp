@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -60,6 +61,33 @@ void no_primeiro_produto(erp::fiscal::nota_fiscal& nota, Alterar alterar)
     no_produto(nota, 0, alterar);
 }
 
+// The same changes as the rows of a table hold them: no_emitente([](emitente& e) { ... }).
+using alteracao = std::function<void(erp::fiscal::nota_fiscal&)>;
+
+template <class Alterar>
+alteracao no_emitente(Alterar alterar)
+{
+    return [alterar](erp::fiscal::nota_fiscal& nota) { no_emitente(nota, alterar); };
+}
+
+template <class Alterar>
+alteracao no_endereco_emitente(Alterar alterar)
+{
+    return [alterar](erp::fiscal::nota_fiscal& nota) { no_endereco_emitente(nota, alterar); };
+}
+
+template <class Alterar>
+alteracao no_destinatario(Alterar alterar)
+{
+    return [alterar](erp::fiscal::nota_fiscal& nota) { no_destinatario(nota, alterar); };
+}
+
+template <class Alterar>
+alteracao no_primeiro_produto(Alterar alterar)
+{
+    return [alterar](erp::fiscal::nota_fiscal& nota) { no_primeiro_produto(nota, alterar); };
+}
+
 inline void tributar(erp::fiscal::nota_fiscal& nota, erp::fiscal::tributacao_produto tributacao)
 {
     no_primeiro_produto(nota, [&](erp::fiscal::produto& p) { p.set_tributacao(std::move(tributacao)); });
@@ -68,6 +96,16 @@ inline void tributar(erp::fiscal::nota_fiscal& nota, erp::fiscal::tributacao_pro
 inline void com_ipi(erp::fiscal::nota_fiscal& nota, erp::fiscal::tributacao_ipi ipi)
 {
     no_primeiro_produto(nota, [&](erp::fiscal::produto& p) { p.set_tributacao_ipi(std::move(ipi)); });
+}
+
+inline alteracao tributar(erp::fiscal::tributacao_produto tributacao)
+{
+    return [tributacao](erp::fiscal::nota_fiscal& nota) { tributar(nota, tributacao); };
+}
+
+inline alteracao com_ipi(erp::fiscal::tributacao_ipi ipi)
+{
+    return [ipi](erp::fiscal::nota_fiscal& nota) { com_ipi(nota, ipi); };
 }
 
 // The tree of a note and the document of a tree; the test fails if the
