@@ -77,20 +77,10 @@ TEST(escrever_outras_fontes, quantity_groups_and_substitution_by_rate)
 TEST(escrever_outras_fontes, shared_icms)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
-    grupo::ICMSPart part;
-    part.orig = 0;
-    part.CST = 10;
-    part.modBC = 3;
-    part.vBC = valor("100");
-    part.pICMS = valor("12");
-    part.vICMS = valor("12");
-    part.modBCST = 4;
-    part.vBCST = valor("140");
-    part.pICMSST = valor("18");
-    part.vICMSST = valor("13.2");
-    part.pBCOp = valor("100");
-    part.UFST = 35;
-    imposto_do_primeiro_item(arvore).ICMS_ou_ISSQN = grupo::ICMS{part};
+    imposto_do_primeiro_item(arvore).ICMS_ou_ISSQN = grupo::ICMS{grupo::ICMSPart{
+        .orig = 0, .CST = 10, .modBC = 3, .vBC = valor("100"), .pRedBC = {}, .pICMS = valor("12"), .vICMS = valor("12"),
+        .modBCST = 4, .pMVAST = {}, .pRedBCST = {}, .vBCST = valor("140"), .pICMSST = valor("18"),
+        .vICMSST = valor("13.2"), .pBCOp = valor("100"), .UFST = 35}};
     EXPECT_EQ(escrito(arvore, "det", "ICMS"),
               "<ICMS><ICMSPart><orig>0</orig><CST>10</CST><modBC>3</modBC><vBC>100.00</vBC><pICMS>12.0000</pICMS>"
               "<vICMS>12.00</vICMS><modBCST>4</modBCST><vBCST>140.00</vBCST><pICMSST>18.0000</pICMSST>"
@@ -122,17 +112,11 @@ TEST(escrever_outras_fontes, purchase_and_sugar_cane)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
     arvore.compra = grupo::compra{"NE 2024/0042", "4500012345", {}};
-    grupo::cana& cana = arvore.cana.emplace();
-    cana.safra = "2024/2025";
-    cana.ref = "05/2024";
-    cana.forDia = {grupo::forDia{1, valor("12.5")}, grupo::forDia{2, valor("10")}};
-    cana.qTotMes = valor("22.5");
-    cana.qTotAnt = valor("100");
-    cana.qTotGer = valor("122.5");
-    cana.deduc = {grupo::deduc{"FUNRURAL", valor("15.3")}};
-    cana.vFor = valor("2250");
-    cana.vTotDed = valor("15.3");
-    cana.vLiqFor = valor("2234.7");
+    arvore.cana = grupo::cana{.safra = "2024/2025", .ref = "05/2024",
+                              .forDia = {grupo::forDia{1, valor("12.5")}, grupo::forDia{2, valor("10")}},
+                              .qTotMes = valor("22.5"), .qTotAnt = valor("100"), .qTotGer = valor("122.5"),
+                              .deduc = {grupo::deduc{"FUNRURAL", valor("15.3")}}, .vFor = valor("2250"),
+                              .vTotDed = valor("15.3"), .vLiqFor = valor("2234.7")};
     velk::xml::document const documento = documento_de(arvore);
     EXPECT_EQ(velk::test::grupo(documento, "compra"),
               "<compra><xNEmp>NE 2024/0042</xNEmp><xPed>4500012345</xPed></compra>");
