@@ -165,7 +165,9 @@ detalhes_pagamento cartao(meio_pagamento meio, char const* quantia, tipo_integra
     if (cnpj != nullptr) {
         tef.set_cnpj(cnpj);
     }
-    return pagamento(meio, quantia).set_indicador_forma_pagamento(indicador_forma_pagamento::a_vista).set_transacao_tef(tef);
+    return pagamento(meio, quantia)
+        .set_indicador_forma_pagamento(indicador_forma_pagamento::a_vista)
+        .set_transacao_tef(tef);
 }
 
 informacoes_pagamento pago_com(std::vector<detalhes_pagamento> pagamentos, core::optional<char const*> troco)

@@ -155,7 +155,8 @@ TEST(signer, signs_again_after_the_old_signature_is_removed)
     ASSERT_TRUE(append_and_sign(nfe, std::string("#") + nfe_id, certificate, stack)) << stack.to_string();
     EXPECT_EQ(child_element_names(nfe), (std::vector<std::string>{"infNFe", "infNFeSupl", "Signature"}));
     EXPECT_EQ(contents_of(nfe, "SignatureValue"), first_value) << "same content, same key, same value";
-    xmlsec_result const verified = xmlsec_verify(saved_text(nfe), nfe_id_element, test_certificates::instance().ca_pem());
+    xmlsec_result const verified =
+        xmlsec_verify(saved_text(nfe), nfe_id_element, test_certificates::instance().ca_pem());
     EXPECT_TRUE(verified.success) << verified.output;
 }
 

@@ -31,7 +31,8 @@ std::vector<std::string> children_of(velk::xml::element const& parent)
 
 TEST(assinatura, drops_only_the_first_signature_among_the_elements)
 {
-    velk::xml::element root = parse_element("<evento>\n<Signature n=\"1\"/><infEvento/>\n<Signature n=\"2\"/></evento>");
+    velk::xml::element root =
+        parse_element("<evento>\n<Signature n=\"1\"/><infEvento/>\n<Signature n=\"2\"/></evento>");
     EXPECT_TRUE(velk::erp::tarn::nfe::detail::remover_primeira_assinatura(root));
     EXPECT_EQ(children_of(root), (std::vector<std::string>{"#text", "infEvento", "#text", "Signature"}));
     EXPECT_EQ(root.find_child("Signature")->get_attributes().front().get_value(), "2");

@@ -101,8 +101,8 @@ TEST(obter_url_qrcode, a_qrcode_in_the_document_wins_over_every_argument)
     for (versao_qrcode const version : {versao_qrcode::versao_100, versao_qrcode::versao_200,
                                         static_cast<versao_qrcode>(9)}) {
         stack s;
-        EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(version, std::nullopt, "http://novo?"), parse_or_fail(text),
-                                        "12", "", s),
+        EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(version, std::nullopt, "http://novo?"),
+                                        parse_or_fail(text), "12", "", s),
                   "http://antigo?chNFe=1&a=b");
         EXPECT_FALSE(s.has_failed()) << s.to_string();
     }
@@ -155,8 +155,7 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
     // 5 characters are short for 1.00 but good for 2.00.
     stack s;
     std::string const url = nfe::obter_url_qrcode(informacoes_adicionais(versao_200, std::nullopt, ""),
-                                                  parse_or_fail(velk::test::nfce_texto(nfce_campos{}).texto), "12345", csc,
-                                                  s);
+                                                  parse_or_fail(velk::test::nfce_texto({}).texto), "12345", csc, s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_NE(url.find("|12345|"), std::string::npos) << url;
 }
