@@ -3,28 +3,9 @@
 #include <support/notas_fiscais.hpp>
 #include <support/partes_de_notas.hpp>
 
-#include <cstdio>
-
 namespace velk::test {
 
 using namespace erp::fiscal;
-
-std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj, unsigned modelo, unsigned serie,
-                         unsigned numero, unsigned codigo, unsigned tp_emis)
-{
-    char base[44];
-    std::snprintf(base, sizeof base, "%02u%04u%.14s%02u%03u%09u%1u%08u", uf, ano_mes, cnpj.c_str(), modelo, serie,
-                  numero, tp_emis, codigo);
-    // Modulo 11 with weights 2 to 9 from the right; remainders 0 and 1 give 0.
-    unsigned soma = 0;
-    unsigned peso = 2;
-    for (int posicao = 42; posicao >= 0; --posicao) {
-        soma += static_cast<unsigned>(base[posicao] - '0') * peso;
-        peso = peso == 9 ? 2 : peso + 1;
-    }
-    unsigned const resto = soma % 11;
-    return std::string(base) + static_cast<char>('0' + (resto < 2 ? 0 : 11 - resto));
-}
 
 namespace {
 
@@ -44,29 +25,6 @@ endereco exterior(char const* logradouro, char const* numero, char const* bairro
         .set_pais(nome_pais);
 }
 
-emitente empresa(char const* cnpj, char const* razao_social, char const* fantasia, endereco const& sede,
-                 char const* telefone, char const* ie, regime_tributario regime)
-{
-    return emitente()
-        .set_cnpj(cnpj)
-        .set_razao_social(razao_social)
-        .set_nome_fantasia(fantasia)
-        .set_endereco(sede)
-        .set_telefone(telefone)
-        .set_ie(ie)
-        .set_regime_fiscal(regime);
-}
-
-destinatario contribuinte(char const* cnpj, char const* razao_social, endereco const& sede, char const* ie)
-{
-    return destinatario()
-        .set_cnpj(cnpj)
-        .set_razao_social(razao_social)
-        .set_endereco(sede)
-        .set_indicador_de_ie(indicador_ie_destinatario::contribuinte_icms)
-        .set_ie(ie);
-}
-
 // Lucro real: 1.65% and 7.6%; lucro presumido: 0.65% and 3%.
 tributacao_pis_cofins lucro_real(char const* base, char const* pis, char const* cofins)
 {
@@ -76,88 +34,6 @@ tributacao_pis_cofins lucro_real(char const* base, char const* pis, char const* 
 tributacao_pis_cofins lucro_presumido(char const* base, char const* pis, char const* cofins)
 {
     return pis_cofins_aliquota(base, pis, "0.65", cofins, "3.00");
-}
-
-detalhes_pagamento pagamento(meio_pagamento meio, char const* quantia)
-{
-    return detalhes_pagamento().set_meio_pagamento(meio).set_valor_pagamento(valor(quantia));
-}
-
-detalhes_pagamento cartao(meio_pagamento meio, char const* quantia, tipo_integracao_pagamento integracao,
-                          bandeira_cartao bandeira, char const* autorizacao)
-{
-    return pagamento(meio, quantia)
-        .set_indicador_forma_pagamento(indicador_forma_pagamento::a_vista)
-        .set_transacao_tef(
-            transacao_tef().set_tipo_integracao(integracao).set_bandeira(bandeira).set_numero_autorizacao(autorizacao));
-}
-
-informacoes_pagamento pago_com(std::vector<detalhes_pagamento> pagamentos, core::optional<char const*> troco = {})
-{
-    informacoes_pagamento informacoes;
-    informacoes.set_detalhes_pagamento(std::move(pagamentos));
-    if (troco) {
-        informacoes.set_valor_total_troco(valor(*troco));
-    }
-    return informacoes;
-}
-
-// The invoice and its instalments of a note sold on credit.
-cobranca fatura(char const* numero, char const* total, std::vector<duplicata> parcelas)
-{
-    return cobranca()
-        .set_numero_fatura(numero)
-        .set_valor_original_fatura(valor(total))
-        .set_valor_desconto(valor("0.00"))
-        .set_valor_liquido(valor(total))
-        .set_duplicatas(std::move(parcelas));
-}
-
-duplicata parcela(char const* numero, core::date vencimento, char const* quantia)
-{
-    return duplicata().set_numero_duplicata(numero).set_data_vencimento(vencimento).set_valor_duplicata(valor(quantia));
-}
-
-struct identificacao {
-    unsigned uf;  // IBGE code of the issuer's state
-    unsigned modelo;
-    unsigned numero;
-    unsigned codigo;
-    int ano;
-    unsigned mes;
-    unsigned dia;
-    int hora;
-    unsigned minuto;
-    std::uint32_t municipio;
-    char const* natureza;
-};
-
-// The head of a note: a sale inside the state, in homologation; an NFC-e to a
-// consumer in the shop, an NF-e to a company.
-nota_fiscal nota(identificacao const& id, emitente const& emitente)
-{
-    bool const nfce = id.modelo == 65;
-    return nota_fiscal()
-        .set_chave_44_digitos(chave_acesso(id.uf, static_cast<unsigned>(id.ano % 100) * 100 + id.mes,
-                                           *emitente.get_cnpj(), id.modelo, 1, id.numero, id.codigo))
-        .set_codigo_nf(id.codigo)
-        .set_natureza_operacao(id.natureza)
-        .set_modelo_emissao(std::to_string(id.modelo))
-        .set_serie("1")
-        .set_numero(id.numero)
-        .set_data_emissao(horario_brasilia(id.ano, id.mes, id.dia, id.hora, id.minuto, 0))
-        .set_tipo_operacao(tipo_operacao::saida)
-        .set_indicador_operacao(destino_operacao::interna)
-        .set_ibge_municipio_emissao(id.municipio)
-        .set_tipo_emissao(tipo_emissao::normal)
-        .set_indicador_ambiente(indicador_ambiente::homologacao)
-        .set_indicador_finalidade_emissao(finalidade_emissao::normal)
-        .set_operacao_consumidor_final(nfce ? consumidor_final::sim : consumidor_final::nao)
-        .set_indicador_presenca(nfce ? indicador_presenca::presencial : indicador_presenca::nao_presencial_outros)
-        .set_indicador_intermediador(indicador_intermediador::sem_intermediador)
-        .set_emitente(emitente)
-        .set_informacoes_transporte(informacoes_transporte().set_modalidade_frete(modalidade_frete::sem_transporte))
-        .set_informacoes_responsavel_tecnico(responsavel_tecnico());
 }
 
 // Caxias do Sul (RS): an auto-parts and machine maker sells inside the state
@@ -549,10 +425,9 @@ nota_fiscal nfce_rj_mercado()
             grupo_tributacao_icms_40().set_origem_mercadoria(origem_mercadoria::nacional).set_cst(cst_icms::cst_40))
         .set_tributacao_pis_cofins(pis_cofins_nao_tributado(cst_pis_cofins_nao_tributado::cst_06));
 
-    detalhes_pagamento credito = cartao(meio_pagamento::cartao_credito, "40.00", tipo_integracao_pagamento::integrado,
-                                        bandeira_cartao::visa, "A1B2C3");
-    transacao_tef tef = *credito.get_transacao_tef();
-    credito.set_transacao_tef(tef.set_cnpj("38061794000176"));
+    detalhes_pagamento const credito = cartao(meio_pagamento::cartao_credito, "40.00",
+                                              tipo_integracao_pagamento::integrado, bandeira_cartao::visa, "A1B2C3",
+                                              "38061794000176");
 
     return nota({33, 65, 120388, 27364519, 2024, 6, 22, 11, 47, 3304557, "VENDA"}, mercado)
         .set_destinatario(
@@ -587,11 +462,9 @@ nota_fiscal nfe_sp_marketplace()
         .set_tributacao(icms_00("209.80", "18.00", "37.76"))
         .set_tributacao_pis_cofins(lucro_real("209.80", "3.46", "15.94"));
 
-    detalhes_pagamento cartao_plataforma =
+    detalhes_pagamento const cartao_plataforma =
         cartao(meio_pagamento::cartao_credito, "209.80", tipo_integracao_pagamento::integrado,
-               bandeira_cartao::mastercard, "784512");
-    transacao_tef tef = *cartao_plataforma.get_transacao_tef();
-    cartao_plataforma.set_transacao_tef(tef.set_cnpj("90472513000198"));
+               bandeira_cartao::mastercard, "784512", "90472513000198");
 
     return nota({35, 55, 60217, 55412983, 2024, 7, 2, 21, 13, 3550308, "VENDA DE MERCADORIA"}, loja)
         .set_operacao_consumidor_final(consumidor_final::sim)

@@ -23,10 +23,4 @@ struct nota_do_corpus {
 // of each note add up.
 std::vector<nota_do_corpus> const& corpus_notas();
 
-// The access key of a note, with its check digit: state code, year and
-// month, issuer's CNPJ, model, series, number, the random code, and the
-// emission type as tag tpEmis writes it (1 for a note issued normally).
-std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj, unsigned modelo, unsigned serie,
-                         unsigned numero, unsigned codigo, unsigned tp_emis = 1);
-
 }  // namespace velk::test

@@ -1,6 +1,6 @@
 #include <support/nfce_texto.hpp>
 
-#include <support/corpus_notas.hpp>
+#include <support/partes_de_notas.hpp>
 
 #include <cstdio>
 

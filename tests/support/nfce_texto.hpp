@@ -20,7 +20,7 @@ struct nfce_campos {
     unsigned cnf = 61938274;          // 8 digits
     // The tag and value of the consumer's identifier: "CPF", "CNPJ" or
     // "idEstrangeiro"; none when absent.
-    std::optional<std::pair<std::string, std::string>> destinatario;
+    std::optional<std::pair<std::string, std::string>> destinatario = std::nullopt;
     std::string vnf = "37.80";
     std::string vicms = "0.00";
 };

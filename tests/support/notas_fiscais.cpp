@@ -43,23 +43,10 @@ produto produto_nfce(char const* codigo, char const* gtin, char const* descricao
 
 nota_fiscal nota_nfce_simples()
 {
-    emitente const padaria = emitente()
-                                 .set_cnpj("27164983000158")
-                                 .set_razao_social("Padaria e Mercearia Vila Madalena Ltda")
-                                 .set_nome_fantasia("Empório Vila Madalena")
-                                 .set_endereco(endereco()
-                                                   .set_logradouro("Rua Fradique Coutinho")
-                                                   .set_numero_endereco("1126")
-                                                   .set_bairro("Vila Madalena")
-                                                   .set_ibge_municipio(3550308)
-                                                   .set_nome_municipio("São Paulo")
-                                                   .set_uf("SP")
-                                                   .set_cep(5416001)
-                                                   .set_ibge_pais(1058)
-                                                   .set_pais("Brasil"))
-                                 .set_telefone("1138151234")
-                                 .set_ie("147293584118")
-                                 .set_regime_fiscal(regime_tributario::simples_nacional);
+    emitente const padaria =
+        empresa("27164983000158", "Padaria e Mercearia Vila Madalena Ltda", "Empório Vila Madalena",
+                local("Rua Fradique Coutinho", "1126", "Vila Madalena", 3550308, "São Paulo", "SP", 5416001),
+                "1138151234", "147293584118", regime_tributario::simples_nacional);
 
     // 2 x 18.90 + 0.350 kg x 16.90 (5.915, billed 5.92) + 9.49 = 53.21
     produto cafe = produto_nfce("000123", "7891023450018", "CAFE TORRADO E MOIDO TRADICIONAL 500G", 9012100, 5102, "UN",
@@ -72,38 +59,16 @@ nota_fiscal nota_nfce_simples()
     refrigerante.set_cest(301100).set_tributacao(
         grupo_tributacao_icms_500().set_origem_mercadoria(origem_mercadoria::nacional).set_csosn(csosn::csosn_500));
 
-    return nota_fiscal()
-        .set_chave_44_digitos("35240527164983000158650010000482131619382749")
-        .set_codigo_nf(61938274)
-        .set_natureza_operacao("VENDA")
-        .set_modelo_emissao("65")
-        .set_serie("1")
-        .set_numero(48213)
+    return nota({35, 65, 48213, 61938274, 2024, 5, 14, 18, 42, 3550308, "VENDA"}, padaria)
         .set_data_emissao(horario_brasilia(2024, 5, 14, 18, 42, 37))
-        .set_tipo_operacao(tipo_operacao::saida)
-        .set_indicador_operacao(destino_operacao::interna)
-        .set_ibge_municipio_emissao(3550308)
-        .set_tipo_emissao(tipo_emissao::normal)
-        .set_indicador_ambiente(indicador_ambiente::homologacao)
-        .set_indicador_finalidade_emissao(finalidade_emissao::normal)
-        .set_operacao_consumidor_final(consumidor_final::sim)
-        .set_indicador_presenca(indicador_presenca::presencial)
-        .set_indicador_intermediador(indicador_intermediador::sem_intermediador)
-        .set_emitente(padaria)
         .set_produtos({cafe, pao, refrigerante})
         .set_total_nfe(total_nfe().set_total_icms(total_nfe_icms()
                                                       .set_valor_total_dos_produtos_da_nota(valor("53.21"))
                                                       .set_total_da_nota(valor("53.21"))
                                                       .set_total_dos_tributos_do_item(valor("11.59"))))
-        .set_informacoes_transporte(informacoes_transporte().set_modalidade_frete(modalidade_frete::sem_transporte))
-        .set_informacoes_pagamento(informacoes_pagamento()
-                                       .set_detalhes_pagamento({detalhes_pagamento()
-                                                                    .set_meio_pagamento(meio_pagamento::dinheiro)
-                                                                    .set_valor_pagamento(valor("60.00"))})
-                                       .set_valor_total_troco(valor("6.79")))
+        .set_informacoes_pagamento(pago_com({pagamento(meio_pagamento::dinheiro, "60.00")}, "6.79"))
         .set_informacoes_adicionais(
-            informacoes_adicionais().set_informacoes_complementares("Tributos aproximados: R$ 11,59 (Fonte: IBPT)"))
-        .set_informacoes_responsavel_tecnico(responsavel_tecnico());
+            informacoes_adicionais().set_informacoes_complementares("Tributos aproximados: R$ 11,59 (Fonte: IBPT)"));
 }
 
 namespace {
@@ -126,25 +91,17 @@ tributacao_icms_uf_destino partilha_rio_de_janeiro(char const* base, char const*
         .set_valor_icms_uf_remetente(valor("0.00"));
 }
 
+// The distributor's items: the hospital's order 4500012345, item by item.
+produto do_pedido(produto item, unsigned numero_item)
+{
+    return item.set_pedido_ordem_de_compra("4500012345").set_codigo_do_produto_ordem_de_compra(numero_item);
+}
+
 produto dipirona()
 {
-    return produto()
-        .set_codigo_produto("DIP500INJ100")
-        .set_codigo_de_barras("7891058300128")
-        .set_descricao("DIPIRONA SODICA 500MG/ML SOL INJ CX 100 AMP 2ML")
-        .set_ncm(30049099)
-        .set_cfop(6108)
-        .set_unidade_comercial("CX")
-        .set_quantidade_comercial(valor("10"))
-        .set_valor_unitario_comercial(valor("185.00"))
-        .set_valor_total_bruto(valor("1850.00"))
-        .set_codigo_de_barras_tributavel("7891058300128")
-        .set_unidade_tributavel("CX")
-        .set_quantidade_tributavel(valor("10"))
-        .set_valor_unitario_tributavel(valor("185.00"))
-        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
-        .set_pedido_ordem_de_compra("4500012345")
-        .set_codigo_do_produto_ordem_de_compra(10)
+    return do_pedido(item("DIP500INJ100", "7891058300128", "DIPIRONA SODICA 500MG/ML SOL INJ CX 100 AMP 2ML",
+                          30049099, 6108, "CX", "10", "185.00", "1850.00"),
+                     10)
         .set_lista_informacoes_rastreabilidade({informacoes_rastreabilidade()
                                                     .set_numero_lote("DP24051")
                                                     .set_quantidade_de_produto_no_lote(valor("10"))
@@ -173,60 +130,22 @@ produto oximetro_importado()
             .set_adicoes(
                 {adicao().set_numero_adicao(1).set_numero_sequencial_da_adicao(1).set_codigo_fabricante_estrangeiro(
                     "SZMED0042")});
-    return produto()
-        .set_codigo_produto("OXI-PM60")
-        .set_codigo_de_barras("6953187044029")
-        .set_descricao("OXIMETRO DE PULSO PORTATIL PM60")
-        .set_ncm(90181980)
-        .set_cfop(6108)
-        .set_unidade_comercial("UN")
-        .set_quantidade_comercial(valor("5"))
-        .set_valor_unitario_comercial(valor("249.00"))
-        .set_valor_total_bruto(valor("1245.00"))
-        .set_codigo_de_barras_tributavel("6953187044029")
-        .set_unidade_tributavel("UN")
-        .set_quantidade_tributavel(valor("5"))
-        .set_valor_unitario_tributavel(valor("249.00"))
-        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
+    return do_pedido(item("OXI-PM60", "6953187044029", "OXIMETRO DE PULSO PORTATIL PM60", 90181980, 6108, "UN", "5",
+                          "249.00", "1245.00"),
+                     20)
         .set_declaracao_importacao({di})
-        .set_pedido_ordem_de_compra("4500012345")
-        .set_codigo_do_produto_ordem_de_compra(20)
         // Imported goods travel between states at 4%.
         .set_tributacao(icms_00("1245.00", "4.00", "49.80", origem_mercadoria::estrangeira_importacao_direta))
-        .set_tributacao_pis_cofins(tributacao_pis_cofins()
-                                       .set_grupo_tributacao_pis(grupo_tributacao_pis_aliquota()
-                                                                     .set_cst_pis(cst_pis_cofins_aliquota::cst_01)
-                                                                     .set_valor_bc_pis(valor("1245.00"))
-                                                                     .set_percentual_aliquota_pis(valor("1.65"))
-                                                                     .set_valor_pis(valor("20.54")))
-                                       .set_grupo_tributacao_cofins(grupo_tributacao_cofins_aliquota()
-                                                                        .set_cst_cofins(cst_pis_cofins_aliquota::cst_01)
-                                                                        .set_valor_bc_cofins(valor("1245.00"))
-                                                                        .set_percentual_aliquota_cofins(valor("7.60"))
-                                                                        .set_valor_cofins(valor("94.62"))))
+        .set_tributacao_pis_cofins(pis_cofins_aliquota("1245.00", "20.54", "1.65", "94.62", "7.60"))
         .set_tributacao_icms_uf_destino(partilha_rio_de_janeiro("1245.00", "4.00", "24.90", "199.20"));
 }
 
 // Diesel for the hospital's generators; its ICMS was charged at the refinery.
 produto diesel()
 {
-    return produto()
-        .set_codigo_produto("DSL-S10")
-        .set_codigo_de_barras("SEM GTIN")
-        .set_descricao("OLEO DIESEL B S10 ADITIVADO")
-        .set_ncm(27101921)
-        .set_cfop(6656)
-        .set_unidade_comercial("L")
-        .set_quantidade_comercial(valor("500"))
-        .set_valor_unitario_comercial(valor("6.189"))
-        .set_valor_total_bruto(valor("3094.50"))
-        .set_codigo_de_barras_tributavel("SEM GTIN")
-        .set_unidade_tributavel("L")
-        .set_quantidade_tributavel(valor("500"))
-        .set_valor_unitario_tributavel(valor("6.189"))
-        .set_indicador_item_compoe_valor_total(indicador_total::compoe)
-        .set_pedido_ordem_de_compra("4500012345")
-        .set_codigo_do_produto_ordem_de_compra(30)
+    return do_pedido(item("DSL-S10", "SEM GTIN", "OLEO DIESEL B S10 ADITIVADO", 27101921, 6656, "L", "500", "6.189",
+                          "3094.50"),
+                     30)
         .set_combustiveis(combustiveis()
                               .set_codigo_produto_anp(820101034)
                               .set_descricao_produto_anp("OLEO DIESEL B S10 - COMUM")
@@ -240,43 +159,20 @@ produto diesel()
 
 nota_fiscal nota_nfe_completa()
 {
-    emitente const distribuidora = emitente()
-                                       .set_cnpj("08931527000141")
-                                       .set_razao_social("Distribuidora Paulista de Produtos Hospitalares Ltda")
-                                       .set_nome_fantasia("DistriMed Campinas")
-                                       .set_endereco(endereco()
-                                                         .set_logradouro("Rua Barão de Jaguara")
-                                                         .set_numero_endereco("1481")
-                                                         .set_complemento("Sala 12")
-                                                         .set_bairro("Centro")
-                                                         .set_ibge_municipio(3509502)
-                                                         .set_nome_municipio("Campinas")
-                                                         .set_uf("SP")
-                                                         .set_cep(13015002)
-                                                         .set_ibge_pais(1058)
-                                                         .set_pais("Brasil"))
-                                       .set_telefone("1932345678")
-                                       .set_ie("244680170119")
-                                       .set_inscricao_municipal("1392817")
-                                       .set_cnae(4644301)
-                                       .set_regime_fiscal(regime_tributario::regime_normal);
+    endereco sede = local("Rua Barão de Jaguara", "1481", "Centro", 3509502, "Campinas", "SP", 13015002);
+    emitente distribuidora =
+        empresa("08931527000141", "Distribuidora Paulista de Produtos Hospitalares Ltda", "DistriMed Campinas",
+                sede.set_complemento("Sala 12"), "1932345678", "244680170119", regime_tributario::regime_normal);
+    distribuidora.set_inscricao_municipal("1392817").set_cnae(4644301);
 
-    destinatario const hospital = destinatario()
-                                      .set_cnpj("33587164000116")
-                                      .set_razao_social("Hospital Santa Luzia de Copacabana S.A.")
-                                      .set_endereco(endereco()
-                                                        .set_logradouro("Rua Barata Ribeiro")
-                                                        .set_numero_endereco("370")
-                                                        .set_bairro("Copacabana")
-                                                        .set_ibge_municipio(3304557)
-                                                        .set_nome_municipio("Rio de Janeiro")
-                                                        .set_uf("RJ")
-                                                        .set_cep(22040002)
-                                                        .set_ibge_pais(1058)
-                                                        .set_pais("Brasil"))
-                                      .set_telefone("2125551234")
-                                      .set_indicador_de_ie(indicador_ie_destinatario::nao_contribuinte)
-                                      .set_email("compras@hsantaluzia.com.br");
+    destinatario const hospital =
+        destinatario()
+            .set_cnpj("33587164000116")
+            .set_razao_social("Hospital Santa Luzia de Copacabana S.A.")
+            .set_endereco(local("Rua Barata Ribeiro", "370", "Copacabana", 3304557, "Rio de Janeiro", "RJ", 22040002))
+            .set_telefone("2125551234")
+            .set_indicador_de_ie(indicador_ie_destinatario::nao_contribuinte)
+            .set_email("compras@hsantaluzia.com.br");
 
     local_entrega const almoxarifado = local_entrega()
                                            .set_cnpj("33587164000205")
@@ -323,24 +219,12 @@ nota_fiscal nota_nfe_completa()
                               .set_peso_liquido(valor("422.500"))
                               .set_peso_bruto(valor("481.000"))});
 
-    return nota_fiscal()
-        .set_chave_44_digitos("35240508931527000141550010000007211304176251")
-        .set_codigo_nf(30417625)
-        .set_natureza_operacao("VENDA DE MERCADORIA ADQUIRIDA DE TERCEIROS")
-        .set_modelo_emissao("55")
-        .set_serie("1")
-        .set_numero(721)
-        .set_data_emissao(horario_brasilia(2024, 5, 14, 9, 15, 0))
+    // Sold to another state, to a hospital that consumes what it buys.
+    return nota({35, 55, 721, 30417625, 2024, 5, 14, 9, 15, 3509502, "VENDA DE MERCADORIA ADQUIRIDA DE TERCEIROS"},
+                distribuidora)
         .set_data_saida_entrada(horario_brasilia(2024, 5, 14, 14, 0, 0))
-        .set_tipo_operacao(tipo_operacao::saida)
         .set_indicador_operacao(destino_operacao::interestadual)
-        .set_ibge_municipio_emissao(3509502)
-        .set_tipo_emissao(tipo_emissao::normal)
-        .set_indicador_ambiente(indicador_ambiente::homologacao)
-        .set_indicador_finalidade_emissao(finalidade_emissao::normal)
         .set_operacao_consumidor_final(consumidor_final::sim)
-        .set_indicador_presenca(indicador_presenca::nao_presencial_outros)
-        .set_indicador_intermediador(indicador_intermediador::sem_intermediador)
         .set_nfe_referenciadas({nfe_referenciada().set_chave_nfe("35240408931527000141550010000006981715302842")})
         .set_nf_referenciadas({nf_referenciada()
                                    .set_uf_emitente(35)
@@ -349,7 +233,6 @@ nota_fiscal nota_nfe_completa()
                                    .set_modelo(1)
                                    .set_serie("1")
                                    .set_numero(15837)})
-        .set_emitente(distribuidora)
         .set_destinatario(hospital)
         .set_local_entrega(almoxarifado)
         .set_autorizacoes_acesso_xml(
@@ -357,27 +240,13 @@ nota_fiscal nota_nfe_completa()
         .set_produtos({dipirona(), oximetro_importado(), diesel()})
         .set_total_nfe(total_nfe().set_total_icms(totais))
         .set_informacoes_transporte(transporte)
-        .set_cobranca(cobranca()
-                          .set_numero_fatura("721")
-                          .set_valor_original_fatura(valor("6189.50"))
-                          .set_valor_desconto(valor("0.00"))
-                          .set_valor_liquido(valor("6189.50"))
-                          .set_duplicatas({duplicata()
-                                               .set_numero_duplicata("001")
-                                               .set_data_vencimento(core::date(13, 6, 2024))
-                                               .set_valor_duplicata(valor("3094.75")),
-                                           duplicata()
-                                               .set_numero_duplicata("002")
-                                               .set_data_vencimento(core::date(13, 7, 2024))
-                                               .set_valor_duplicata(valor("3094.75"))}))
-        .set_informacoes_pagamento(informacoes_pagamento().set_detalhes_pagamento(
-            {detalhes_pagamento()
-                 .set_indicador_forma_pagamento(indicador_forma_pagamento::a_prazo)
-                 .set_meio_pagamento(meio_pagamento::boleto_bancario)
-                 .set_valor_pagamento(valor("6189.50"))}))
+        .set_cobranca(fatura("721", "6189.50",
+                             {parcela("001", core::date(13, 6, 2024), "3094.75"),
+                              parcela("002", core::date(13, 7, 2024), "3094.75")}))
+        .set_informacoes_pagamento(pago_com({pagamento(meio_pagamento::boleto_bancario, "6189.50")
+                                                 .set_indicador_forma_pagamento(indicador_forma_pagamento::a_prazo)}))
         .set_informacoes_adicionais(informacoes_adicionais().set_informacoes_complementares(
-            "Pedido de compra 4500012345. Entregar no almoxarifado central, de segunda a sexta, das 8h às 16h."))
-        .set_informacoes_responsavel_tecnico(responsavel_tecnico());
+            "Pedido de compra 4500012345. Entregar no almoxarifado central, de segunda a sexta, das 8h às 16h."));
 }
 
 }  // namespace velk::test

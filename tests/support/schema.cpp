@@ -126,4 +126,14 @@ std::vector<std::string> validate_against_schema(std::filesystem::path const& xs
     return validate_against_schema(xsd, xml);
 }
 
+std::vector<std::string> validate_against_schema(std::filesystem::path const& xsd, xml::element const& root)
+{
+    core::result::stack stack;
+    xml::document document;
+    if (!document.append_node(root, stack)) {
+        return {"element not taken as a root: " + stack.to_string()};
+    }
+    return validate_against_schema(xsd, document);
+}
+
 }  // namespace velk::test

@@ -2,6 +2,10 @@
 
 #include <pki/certificate_authority.hpp>
 #include <velk/core/byte_array.hpp>
+#include <velk/core/result/stack.hpp>
+#include <velk/cryptography/pkcs12.hpp>
+
+#include <gtest/gtest.h>
 
 #include <string>
 
@@ -30,5 +34,18 @@ private:
     std::string password_;
     core::byte_array pkcs12_;
 };
+
+// The taxpayer's bundle as the library reads it, to sign with.
+inline cryptography::pkcs12 const& taxpayer_pkcs12()
+{
+    static cryptography::pkcs12 const bundle = [] {
+        auto const& certificates = test_certificates::instance();
+        core::result::stack stack;
+        auto read = cryptography::pkcs12::from_byte_array(certificates.pkcs12(), certificates.password(), stack);
+        EXPECT_FALSE(stack.has_failed()) << stack.to_string();
+        return read;
+    }();
+    return bundle;
+}
 
 }  // namespace velk::test

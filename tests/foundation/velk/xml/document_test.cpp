@@ -1,6 +1,5 @@
-#include "xml_test_helpers.hpp"
-
 #include <support/files.hpp>
+#include <support/xml_text.hpp>
 #include <velk/xml/document.hpp>
 #include <velk/xml/node.hpp>
 #include <velk/xml/xml_result_category.hpp>

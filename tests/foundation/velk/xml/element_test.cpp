@@ -1,5 +1,4 @@
-#include "xml_test_helpers.hpp"
-
+#include <support/xml_text.hpp>
 #include <velk/xml/element.hpp>
 #include <velk/xml/node.hpp>
 #include <velk/xml/xml_result_category.hpp>

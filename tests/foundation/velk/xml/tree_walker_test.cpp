@@ -1,5 +1,4 @@
-#include "xml_test_helpers.hpp"
-
+#include <support/xml_text.hpp>
 #include <velk/core/converter_result_category.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/xml/tree_walker.hpp>

@@ -7,6 +7,7 @@
 #include "signature_fixtures.hpp"
 
 #include <support/test_certificates.hpp>
+#include <support/xml_text.hpp>
 #include <support/xmlsec.hpp>
 #include <velk/xml/node.hpp>
 
@@ -71,13 +72,13 @@ TEST(signer, digests_the_referenced_element_in_its_context)
          "urn:velk:a:inf"},
         {"tree made in memory", built_in_memory, "urn:velk:a:inf"},
     };
-    pkcs12 const certificate = test_pkcs12();
+    pkcs12 const certificate = taxpayer_pkcs12();
     for (context_case const& current : cases) {
         SCOPED_TRACE(current.name);
         velk::xml::element tree = current.tree();
         core::result::stack stack;
         ASSERT_TRUE(append_and_sign(tree, "#A", certificate, stack)) << stack.to_string();
-        std::string const text = to_text(tree);
+        std::string const text = saved_text(tree);
         xmlsec_result const verified = xmlsec_verify(text, current.id_element, test_certificates::instance().ca_pem());
         EXPECT_TRUE(verified.success) << verified.output << "\n" << text;
     }
@@ -88,7 +89,7 @@ TEST(signer, refuses_a_tree_whose_element_names_cannot_be_written)
     velk::xml::element tree = parse_element("<r><inf Id=\"A\"><v>1</v></inf></r>");
     tree.find_child("inf")->append_node(velk::xml::element("nome inválido"));
     core::result::stack stack;
-    EXPECT_FALSE(append_and_sign(tree, "#A", test_pkcs12(), stack));
+    EXPECT_FALSE(append_and_sign(tree, "#A", taxpayer_pkcs12(), stack));
     EXPECT_EQ(stack.get_value(), 16) << stack.to_string();
     EXPECT_EQ(contents_of(tree, "DigestValue"), "") << "the template stays unsigned";
 }

@@ -8,6 +8,7 @@
 
 #include <support/files.hpp>
 #include <support/schema.hpp>
+#include <support/xml_text.hpp>
 
 #include <gtest/gtest.h>
 
@@ -22,21 +23,15 @@ namespace requisicao = nfe::sefaz_data::requisicao;
 namespace resposta = nfe::sefaz_data::resposta;
 using velk::core::byte_array;
 using velk::core::result::stack;
+using velk::test::parse_element;
+using velk::test::saved_text;
 using arguments = std::vector<std::pair<std::string, std::string>>;
-
-std::string saved(velk::xml::element const& root)
-{
-    stack result;
-    velk::xml::document document;
-    document.append_node(root, result);
-    return velk::xml::document::save(document, result).to_string();
-}
 
 TEST(status_autorizador_requisicao, default_and_set_requests_as_the_schemas_want_them)
 {
     stack result;
     requisicao::status_autorizador const default_request;
-    EXPECT_EQ(saved(default_request.get_xml(result)),
+    EXPECT_EQ(saved_text(default_request.get_xml(result)),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<consStatServ xmlns=\"http://www.portalfiscal.inf.br/nfe\" "
               "versao=\"3.10\"><tpAmb>2</tpAmb><cUF>12</cUF><xServ>STATUS</xServ></consStatServ>");
     ASSERT_FALSE(result.has_failed()) << result.to_string();
@@ -51,13 +46,12 @@ TEST(status_autorizador_requisicao, default_and_set_requests_as_the_schemas_want
         request.set_versao(each.versao);
         request.set_ambiente(velk::erp::tarn::ambiente::producao);
         request.set_estado(velk::erp::estado::to);
-        velk::xml::document document;
-        document.append_node(request.get_xml(result), result);
+        velk::xml::element const message = request.get_xml(result);
         ASSERT_FALSE(result.has_failed()) << result.to_string();
-        EXPECT_EQ(velk::test::validate_against_schema(velk::test::schema_dir() / each.schema, document),
+        EXPECT_EQ(velk::test::validate_against_schema(velk::test::schema_dir() / each.schema, message),
                   std::vector<std::string>())
             << each.schema;
-        EXPECT_NE(saved(*document.get_root_element()).find("<tpAmb>1</tpAmb><cUF>17</cUF>"), std::string::npos);
+        EXPECT_NE(saved_text(message).find("<tpAmb>1</tpAmb><cUF>17</cUF>"), std::string::npos);
     }
 }
 
@@ -72,14 +66,6 @@ TEST(status_autorizador_requisicao, version_without_text_names_the_field)
     EXPECT_EQ(result.get_category(), nfe::sefaz_data::result_category::instance());
     EXPECT_EQ(result.get_value(), 9);
     EXPECT_EQ(result.top().get_arguments(), (arguments{{"request-name", "status_autorizador"}, {"field-name", "versao"}}));
-}
-
-velk::xml::element parsed(std::string const& text)
-{
-    stack result;
-    velk::xml::document document;
-    EXPECT_TRUE(document.load(byte_array(text), result)) << result.to_string();
-    return *document.get_root_element();
 }
 
 TEST(status_autorizador_resposta, optional_values_and_what_failures_name)
@@ -113,7 +99,7 @@ TEST(status_autorizador_resposta, optional_values_and_what_failures_name)
     };
     for (row const& each : rows) {
         stack result;
-        velk::xml::element const root = parsed(each.text);
+        velk::xml::element const root = parse_element(each.text);
         auto const status = resposta::status_autorizador::from_xml(root, result);
         EXPECT_EQ(status.get_xml().get_name(), root.get_name()) << each.case_name << ": the tree is kept in any case";
         if (each.code == 0) {
@@ -129,7 +115,7 @@ TEST(status_autorizador_resposta, optional_values_and_what_failures_name)
     }
 
     stack result;
-    auto const full = resposta::status_autorizador::from_xml(parsed(rows[0].text), result);
+    auto const full = resposta::status_autorizador::from_xml(parse_element(rows[0].text), result);
     EXPECT_EQ(full.get_codigo_status(), 108);
     EXPECT_EQ(full.get_motivo(), "Paralisado");
     EXPECT_EQ(full.get_tempo_medio().value(), 7);

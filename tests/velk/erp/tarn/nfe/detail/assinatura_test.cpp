@@ -1,6 +1,7 @@
 #include <velk/erp/tarn/nfe/detail/assinatura.hpp>
 
 #include <support/test_certificates.hpp>
+#include <support/xml_text.hpp>
 #include <velk/core/converter_result_category.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
@@ -15,22 +16,9 @@
 namespace {
 
 using velk::core::result::stack;
+using velk::test::parse_element;
+using velk::test::taxpayer_pkcs12;
 namespace campo = velk::erp::tarn::nfe::sefaz_data::requisicao::detail;
-
-velk::cryptography::pkcs12 taxpayer()
-{
-    auto const& certificates = velk::test::test_certificates::instance();
-    stack s;
-    return velk::cryptography::pkcs12::from_byte_array(certificates.pkcs12(), certificates.password(), s);
-}
-
-velk::xml::element parse(std::string const& text)
-{
-    stack s;
-    velk::xml::document document;
-    document.load(velk::core::byte_array(text), s);
-    return *document.get_root_element();
-}
 
 std::vector<std::string> children_of(velk::xml::element const& parent)
 {
@@ -43,7 +31,8 @@ std::vector<std::string> children_of(velk::xml::element const& parent)
 
 TEST(assinatura, drops_only_the_first_signature_among_the_elements)
 {
-    velk::xml::element root = parse("<evento>\n<Signature n=\"1\"/><infEvento/>\n<Signature n=\"2\"/></evento>");
+    velk::xml::element root =
+        parse_element("<evento>\n<Signature n=\"1\"/><infEvento/>\n<Signature n=\"2\"/></evento>");
     EXPECT_TRUE(velk::erp::tarn::nfe::detail::remover_primeira_assinatura(root));
     EXPECT_EQ(children_of(root), (std::vector<std::string>{"#text", "infEvento", "#text", "Signature"}));
     EXPECT_EQ(root.find_child("Signature")->get_attributes().front().get_value(), "2");
@@ -53,13 +42,13 @@ TEST(assinatura, drops_only_the_first_signature_among_the_elements)
 
 TEST(assinatura, an_identifier_without_text_ends_the_frame_unsigned)
 {
-    velk::xml::element root = parse("<evento><infEvento Id=\"ID1\"/><Signature/></evento>");
+    velk::xml::element root = parse_element("<evento><infEvento Id=\"ID1\"/><Signature/></evento>");
     stack s;
     auto const failing = [](std::string& id, stack& pieces) {
         id = "ID";
         return campo::escrever_numero(id, 100, 2, true, "evento", "sequencia", pieces);
     };
-    velk::erp::tarn::nfe::detail::assinar_raiz(root, failing, taxpayer(), s);
+    velk::erp::tarn::nfe::detail::assinar_raiz(root, failing, taxpayer_pkcs12(), s);
     ASSERT_EQ(s.size(), 2U) << s.to_string();
     EXPECT_EQ(s.get_value(), 9);
     EXPECT_EQ(*s.top().find_argument("request-name"), "evento");
@@ -71,7 +60,7 @@ TEST(assinatura, an_identifier_without_text_ends_the_frame_unsigned)
         id = "ID1";
         return true;
     };
-    velk::erp::tarn::nfe::detail::assinar_raiz(root, good, taxpayer(), s);
+    velk::erp::tarn::nfe::detail::assinar_raiz(root, good, taxpayer_pkcs12(), s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(root.find_child("Signature")->find_child("SignedInfo")->find_child("Reference")->find_attribute("", "URI")->get_value(),
               "#ID1");

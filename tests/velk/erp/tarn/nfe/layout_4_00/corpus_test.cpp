@@ -7,6 +7,7 @@
 #include <support/files.hpp>
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
+#include <support/xml_text.hpp>
 #include <support/xmlsec.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
@@ -24,31 +25,17 @@ using velk::test::nota_do_corpus;
 
 class corpus : public testing::TestWithParam<nota_do_corpus> {};
 
-velk::cryptography::pkcs12 const& certificado()
-{
-    static velk::cryptography::pkcs12 const pkcs12 = [] {
-        auto const& certificados = velk::test::test_certificates::instance();
-        stack report;
-        auto lido = velk::cryptography::pkcs12::from_byte_array(certificados.pkcs12(), certificados.password(), report);
-        EXPECT_FALSE(report.has_failed()) << report.to_string();
-        return lido;
-    }();
-    return pkcs12;
-}
-
 TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
 {
     stack report;
     documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    documento.assinar(certificado(), report);
+    documento.assinar(velk::test::taxpayer_pkcs12(), report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    velk::xml::document arvore;
-    arvore.append_node(documento.get_xml(), report);
-    std::string const texto = velk::xml::document::save(arvore, report).to_string();
-    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    std::string const texto = velk::test::saved_text(documento.get_xml());
 
-    auto const erros = velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", arvore);
+    auto const erros =
+        velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", velk::core::byte_array(texto));
     EXPECT_TRUE(erros.empty()) << testing::PrintToString(erros) << "\n" << texto;
 
     auto const verificacao = velk::test::xmlsec_verify(texto, "http://www.portalfiscal.inf.br/nfe:infNFe",

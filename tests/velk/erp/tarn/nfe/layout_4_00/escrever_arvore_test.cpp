@@ -13,21 +13,12 @@ namespace {
 
 namespace layout = velk::erp::tarn::nfe::layout_4_00;
 using velk::core::result::stack;
+using velk::test::arvore_de;
 
-layout::layout_4_00 arvore_de(velk::erp::fiscal::nota_fiscal const& nota)
-{
-    stack report;
-    layout::layout_4_00 arvore = layout::montar_layout_4_00(nota, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return arvore;
-}
-
+// The first group of that name in the tree's document.
 std::string escrito(layout::layout_4_00 const& arvore, std::string const& tag)
 {
-    stack report;
-    velk::xml::document const documento = layout::escrever_layout_4_00(arvore, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return velk::test::grupos(documento, tag).at(0);
+    return velk::test::grupos(velk::test::documento_de(arvore), tag).at(0);
 }
 
 TEST(escrever_arvore, the_manufacturers_cnpj_is_written_as_CNPJ)
@@ -42,18 +33,10 @@ TEST(escrever_arvore, the_manufacturers_cnpj_is_written_as_CNPJ)
 TEST(escrever_arvore, a_pick_up_place_holds_its_state_registration_as_a_number)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfce_simples());
-    layout::grupo::retirada& retirada = arvore.retirada.emplace();
-    retirada.documento = layout::grupo::CPF{1234567890};
-    retirada.xNome = "Sítio Boa Vista";
-    retirada.xLgr = "Estrada Municipal";
-    retirada.nro = "S/N";
-    retirada.xBairro = "Zona Rural";
-    retirada.cMun = 3509502;
-    retirada.xMun = "Campinas";
-    retirada.UF = "SP";
-    retirada.CEP = 13100000;
-    retirada.fone = 19987654321;
-    retirada.IE = 244680170119;
+    arvore.retirada = layout::grupo::retirada{
+        .documento = layout::grupo::CPF{1234567890}, .xNome = "Sítio Boa Vista", .xLgr = "Estrada Municipal",
+        .nro = "S/N", .xCpl = {}, .xBairro = "Zona Rural", .cMun = 3509502, .xMun = "Campinas", .UF = "SP",
+        .CEP = 13100000, .cPais = {}, .xPais = {}, .fone = 19987654321, .email = {}, .IE = 244680170119};
     EXPECT_EQ(escrito(arvore, "retirada"),
               "<retirada><CPF>01234567890</CPF><xNome>Sítio Boa Vista</xNome><xLgr>Estrada Municipal</xLgr>"
               "<nro>S/N</nro><xBairro>Zona Rural</xBairro><cMun>3509502</cMun><xMun>Campinas</xMun><UF>SP</UF>"
@@ -63,32 +46,12 @@ TEST(escrever_arvore, a_pick_up_place_holds_its_state_registration_as_a_number)
 TEST(escrever_arvore, a_new_vehicle_is_written_in_the_order_of_its_group)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfce_simples());
-    layout::grupo::veicProd veiculo;
-    veiculo.tpOp = 1;
-    veiculo.chassi = "9BWZZZ377VT004251";
-    veiculo.cCor = "01";
-    veiculo.xCor = "BRANCO";
-    veiculo.pot = "116";
-    veiculo.cilin = "1598";
-    veiculo.pesoL = velk::test::valor("1085");
-    veiculo.pesoB = velk::test::valor("1110.5");
-    veiculo.nSerie = "004251";
-    veiculo.tpComb = "16";
-    veiculo.nMotor = "CWS123456";
-    veiculo.CMT = velk::test::valor("1.5");
-    veiculo.dist = "2470";
-    veiculo.anoMod = 2025;
-    veiculo.anoFab = 2024;
-    veiculo.tpPint = "S";
-    veiculo.tpVeic = 6;
-    veiculo.espVeic = 1;
-    veiculo.VIN = "N";
-    veiculo.condVeic = 1;
-    veiculo.cMod = 123456;
-    veiculo.cCorDENATRAN = 11;
-    veiculo.lota = 5;
-    veiculo.tpRest = 0;
-    arvore.det[0].prod.especifico = veiculo;
+    arvore.det[0].prod.especifico = layout::grupo::veicProd{
+        .tpOp = 1, .chassi = "9BWZZZ377VT004251", .cCor = "01", .xCor = "BRANCO", .pot = "116", .cilin = "1598",
+        .pesoL = velk::test::valor("1085"), .pesoB = velk::test::valor("1110.5"), .nSerie = "004251", .tpComb = "16",
+        .nMotor = "CWS123456", .CMT = velk::test::valor("1.5"), .dist = "2470", .anoMod = 2025, .anoFab = 2024,
+        .tpPint = "S", .tpVeic = 6, .espVeic = 1, .VIN = "N", .condVeic = 1, .cMod = 123456, .cCorDENATRAN = 11,
+        .lota = 5, .tpRest = 0};
     std::string const det = escrito(arvore, "det");
     EXPECT_EQ(det.substr(det.find("<veicProd>"), det.find("<imposto>") - det.find("<veicProd>")),
               "<veicProd><tpOp>1</tpOp><chassi>9BWZZZ377VT004251</chassi><cCor>01</cCor><xCor>BRANCO</xCor>"

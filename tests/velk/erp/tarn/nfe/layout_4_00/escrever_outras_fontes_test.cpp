@@ -23,35 +23,10 @@ namespace layout = velk::erp::tarn::nfe::layout_4_00;
 namespace grupo = velk::erp::tarn::nfe::layout_4_00::grupo;
 using velk::core::result::stack;
 using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::test::arvore_de;
+using velk::test::documento_de;
+using velk::test::escrito;
 using velk::test::valor;
-
-layout::layout_4_00 arvore_de(velk::erp::fiscal::nota_fiscal const& nota)
-{
-    stack report;
-    layout::layout_4_00 arvore = layout::montar_layout_4_00(nota, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return arvore;
-}
-
-velk::xml::document documento_de(layout::layout_4_00 const& arvore)
-{
-    stack report;
-    velk::xml::document documento = layout::escrever_layout_4_00(arvore, report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    return documento;
-}
-
-std::string escrito(layout::layout_4_00 const& arvore, std::string const& grupo_raiz, std::string const& tag)
-{
-    std::string todos;
-    for (std::string const& texto : velk::test::grupos(documento_de(arvore), grupo_raiz)) {
-        todos += texto;
-    }
-    std::string const fecha = "</" + tag + ">";
-    auto const inicio = todos.find("<" + tag + ">");
-    return inicio == std::string::npos ? std::string()
-                                       : todos.substr(inicio, todos.find(fecha, inicio) + fecha.size() - inicio);
-}
 
 grupo::imposto& imposto_do_primeiro_item(layout::layout_4_00& arvore)
 {
@@ -102,20 +77,10 @@ TEST(escrever_outras_fontes, quantity_groups_and_substitution_by_rate)
 TEST(escrever_outras_fontes, shared_icms)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
-    grupo::ICMSPart part;
-    part.orig = 0;
-    part.CST = 10;
-    part.modBC = 3;
-    part.vBC = valor("100");
-    part.pICMS = valor("12");
-    part.vICMS = valor("12");
-    part.modBCST = 4;
-    part.vBCST = valor("140");
-    part.pICMSST = valor("18");
-    part.vICMSST = valor("13.2");
-    part.pBCOp = valor("100");
-    part.UFST = 35;
-    imposto_do_primeiro_item(arvore).ICMS_ou_ISSQN = grupo::ICMS{part};
+    imposto_do_primeiro_item(arvore).ICMS_ou_ISSQN = grupo::ICMS{grupo::ICMSPart{
+        .orig = 0, .CST = 10, .modBC = 3, .vBC = valor("100"), .pRedBC = {}, .pICMS = valor("12"), .vICMS = valor("12"),
+        .modBCST = 4, .pMVAST = {}, .pRedBCST = {}, .vBCST = valor("140"), .pICMSST = valor("18"),
+        .vICMSST = valor("13.2"), .pBCOp = valor("100"), .UFST = 35}};
     EXPECT_EQ(escrito(arvore, "det", "ICMS"),
               "<ICMS><ICMSPart><orig>0</orig><CST>10</CST><modBC>3</modBC><vBC>100.00</vBC><pICMS>12.0000</pICMS>"
               "<vICMS>12.00</vICMS><modBCST>4</modBCST><vBCST>140.00</vBCST><pICMSST>18.0000</pICMSST>"
@@ -147,17 +112,11 @@ TEST(escrever_outras_fontes, purchase_and_sugar_cane)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfe_completa());
     arvore.compra = grupo::compra{"NE 2024/0042", "4500012345", {}};
-    grupo::cana& cana = arvore.cana.emplace();
-    cana.safra = "2024/2025";
-    cana.ref = "05/2024";
-    cana.forDia = {grupo::forDia{1, valor("12.5")}, grupo::forDia{2, valor("10")}};
-    cana.qTotMes = valor("22.5");
-    cana.qTotAnt = valor("100");
-    cana.qTotGer = valor("122.5");
-    cana.deduc = {grupo::deduc{"FUNRURAL", valor("15.3")}};
-    cana.vFor = valor("2250");
-    cana.vTotDed = valor("15.3");
-    cana.vLiqFor = valor("2234.7");
+    arvore.cana = grupo::cana{.safra = "2024/2025", .ref = "05/2024",
+                              .forDia = {grupo::forDia{1, valor("12.5")}, grupo::forDia{2, valor("10")}},
+                              .qTotMes = valor("22.5"), .qTotAnt = valor("100"), .qTotGer = valor("122.5"),
+                              .deduc = {grupo::deduc{"FUNRURAL", valor("15.3")}}, .vFor = valor("2250"),
+                              .vTotDed = valor("15.3"), .vLiqFor = valor("2234.7")};
     velk::xml::document const documento = documento_de(arvore);
     EXPECT_EQ(velk::test::grupo(documento, "compra"),
               "<compra><xNEmp>NE 2024/0042</xNEmp><xPed>4500012345</xPed></compra>");
@@ -172,18 +131,13 @@ TEST(escrever_outras_fontes, purchase_and_sugar_cane)
 // The errors of the official schema for a note, signed as it is sent.
 std::string erros_do_esquema(layout::layout_4_00 const& arvore)
 {
-    auto const& certificados = velk::test::test_certificates::instance();
     stack report;
-    auto const certificado =
-        velk::cryptography::pkcs12::from_byte_array(certificados.pkcs12(), certificados.password(), report);
     documento_fiscal nota = documento_fiscal::from_xml(documento_de(arvore), report);
-    nota.assinar(certificado, report);
+    nota.assinar(velk::test::taxpayer_pkcs12(), report);
     EXPECT_FALSE(report.has_failed()) << report.to_string();
-    velk::xml::document documento;
-    documento.append_node(nota.get_xml(), report);
     std::string erros;
     for (std::string const& erro :
-         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", documento)) {
+         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", nota.get_xml())) {
         erros += erro + "\n";
     }
     return erros;
@@ -295,10 +249,7 @@ TEST_P(escrever_fora_do_esquema, writes_what_the_layout_says_and_the_schema_refu
     fora_do_esquema const& caso = GetParam();
     layout::layout_4_00 arvore = arvore_de(do_corpus("nfe_sp_exportacao"));
     caso.alterar(arvore);
-    std::string todos;
-    for (std::string const& texto : velk::test::grupos(documento_de(arvore), caso.grupo)) {
-        todos += texto;
-    }
+    std::string const todos = velk::test::texto_dos_grupos(documento_de(arvore), caso.grupo);
     EXPECT_NE(todos.find(caso.escrito), std::string::npos) << todos;
     std::string const erros = erros_do_esquema(arvore);
     EXPECT_NE(erros.find(std::string("}") + caso.recusado + "'"), std::string::npos) << erros;

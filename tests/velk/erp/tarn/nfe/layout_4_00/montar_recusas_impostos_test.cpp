@@ -13,22 +13,14 @@
 namespace {
 
 using namespace velk::erp::fiscal;
+using velk::test::alteracao;
 using velk::test::bruto;
+using velk::test::com_ipi;
 using velk::test::conversor;
+using velk::test::no_primeiro_produto;
 using velk::test::recusa;
+using velk::test::tributar;
 using velk::test::valor;
-
-// The tax of the first item, the medicine, replaced.
-void tributar(nota_fiscal& nota, tributacao_produto tributacao)
-{
-    velk::test::no_produto(nota, 0, [&](produto& p) { p.set_tributacao(std::move(tributacao)); });
-}
-
-template <class Alterar>
-void no_primeiro_produto(nota_fiscal& nota, Alterar alterar)
-{
-    velk::test::no_produto(nota, 0, alterar);
-}
 
 // Groups with every required value, for the cases to take one away.
 grupo_tributacao_icms_00 icms00()
@@ -101,24 +93,19 @@ tributacao_ipi ipi_por_aliquota()
         .set_valor_ipi(valor("10.00"));
 }
 
-void com_ipi(nota_fiscal& nota, tributacao_ipi ipi)
-{
-    no_primeiro_produto(nota, [&](produto& p) { p.set_tributacao_ipi(ipi); });
-}
-
 template <class Pis>
-void com_pis(nota_fiscal& nota, Pis pis)
+alteracao com_pis(Pis pis)
 {
-    no_primeiro_produto(nota, [&](produto& p) {
-        p.set_tributacao_pis_cofins(tributacao_pis_cofins().set_grupo_tributacao_pis(std::move(pis)));
+    return no_primeiro_produto([pis](produto& p) {
+        p.set_tributacao_pis_cofins(tributacao_pis_cofins().set_grupo_tributacao_pis(pis));
     });
 }
 
 template <class Cofins>
-void com_cofins(nota_fiscal& nota, Cofins cofins)
+alteracao com_cofins(Cofins cofins)
 {
-    no_primeiro_produto(nota, [&](produto& p) {
-        p.set_tributacao_pis_cofins(tributacao_pis_cofins().set_grupo_tributacao_cofins(std::move(cofins)));
+    return no_primeiro_produto([cofins](produto& p) {
+        p.set_tributacao_pis_cofins(tributacao_pis_cofins().set_grupo_tributacao_cofins(cofins));
     });
 }
 
@@ -146,9 +133,11 @@ grupo_tributacao_cofins_outros cofins_outros()
         .set_percentual_aliquota_cofins(valor("7.60"));
 }
 
-void pago_com(nota_fiscal& nota, detalhes_pagamento pagamento)
+alteracao pago_com(detalhes_pagamento pagamento)
 {
-    nota.set_informacoes_pagamento(informacoes_pagamento().set_detalhes_pagamento({std::move(pagamento)}));
+    return [pagamento](nota_fiscal& nota) {
+        nota.set_informacoes_pagamento(informacoes_pagamento().set_detalhes_pagamento({pagamento}));
+    };
 }
 
 detalhes_pagamento cartao(transacao_tef transacao)
@@ -159,12 +148,14 @@ detalhes_pagamento cartao(transacao_tef transacao)
         .set_transacao_tef(std::move(transacao));
 }
 
-void processo(nota_fiscal& nota, unsigned int indicador)
+alteracao processo(unsigned int indicador)
 {
-    nota.set_informacoes_adicionais(informacoes_adicionais().set_grupo_processo_referenciado(
-        {grupo_processo_referenciado()
-             .set_identificador("0001234-56.2024.8.26.0100")
-             .set_indicador_da_origem(bruto<indicador_origem_processo>(indicador))}));
+    return [indicador](nota_fiscal& nota) {
+        nota.set_informacoes_adicionais(informacoes_adicionais().set_grupo_processo_referenciado(
+            {grupo_processo_referenciado()
+                 .set_identificador("0001234-56.2024.8.26.0100")
+                 .set_indicador_da_origem(bruto<indicador_origem_processo>(indicador))}));
+    };
 }
 
 char const* const base_icms = "A base de cálculo do ICMS está inválida";
@@ -174,62 +165,28 @@ char const* const aliquota_ipi = "A aliquota do IPI está inválida";
 
 std::vector<recusa> const recusas = {
     // ICMS: enumerations
-    {"origin 9",
-     [](nota_fiscal& n) { tributar(n, icms00().set_origem_mercadoria(bruto<origem_mercadoria>(9))); },
-     28,
-     "A origem da mercadoria está inválida",
-     "9",
-     {}},
-    {"base mode 4",
-     [](nota_fiscal& n) { tributar(n, icms00().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4))); },
-     29,
-     "A modalidade da base de cálculo do ICMS está inválida",
-     "4",
-     {}},
+    {"origin 9", tributar(icms00().set_origem_mercadoria(bruto<origem_mercadoria>(9))), 28,
+     "A origem da mercadoria está inválida", "9", {}},
+    {"base mode 4", tributar(icms00().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4))), 29,
+     "A modalidade da base de cálculo do ICMS está inválida", "4", {}},
     {"base mode 4 in ICMS90",
-     [](nota_fiscal& n) {
-         tributar(n, grupo_tributacao_icms_90().set_tributacao_normal_icms_90(
-                         tributacao_normal_icms_90().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4))));
-     },
-     29,
-     "A modalidade da base de cálculo do ICMS está inválida",
-     "4",
-     {}},
-    {"substitution base mode 6",
-     [](nota_fiscal& n) { tributar(n, icms10().set_modalidade_bc_icms_st(bruto<modalidade_bc_icms_st>(6))); },
-     30,
-     "A modalidade da base de cálculo por ST do ICMS está inválida",
-     "6",
-     {}},
+     tributar(grupo_tributacao_icms_90().set_tributacao_normal_icms_90(
+                  tributacao_normal_icms_90().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4)))),
+     29, "A modalidade da base de cálculo do ICMS está inválida", "4", {}},
+    {"substitution base mode 6", tributar(icms10().set_modalidade_bc_icms_st(bruto<modalidade_bc_icms_st>(6))), 30,
+     "A modalidade da base de cálculo por ST do ICMS está inválida", "6", {}},
     {"substitution base mode 6 in ICMSSN900",
-     [](nota_fiscal& n) {
-         tributar(n, grupo_tributacao_icms_900()
-                         .set_csosn(csosn::csosn_900)
-                         .set_tributacao_st_icms_900(
-                             tributacao_st_icms_900().set_modalidade_bc_icms_st(bruto<modalidade_bc_icms_st>(6))));
-     },
-     30,
-     "A modalidade da base de cálculo por ST do ICMS está inválida",
-     "6",
-     {}},
-    {"CSOSN 10",
-     [](nota_fiscal& n) { tributar(n, grupo_tributacao_icms_102().set_csosn(bruto<csosn>(10))); },
-     31,
-     "A situação de operação do simples nacional está inválida",
-     "10",
-     {}},
-    {"CST 11",
-     [](nota_fiscal& n) { tributar(n, icms00().set_cst(bruto<cst_icms>(11))); },
-     32,
-     "O código de tributação do ICMS está inválido",
-     "11",
-     {}},
-    {"CST 11 passed on",
-     [](nota_fiscal& n) { tributar(n, grupo_repasse_icms_st().set_tributacao_icms(bruto<cst_icms>(11))); },
-     32,
-     "O código de tributação do ICMS está inválido",
-     "11",
-     {}},
+     tributar(grupo_tributacao_icms_900()
+                  .set_csosn(csosn::csosn_900)
+                  .set_tributacao_st_icms_900(
+                      tributacao_st_icms_900().set_modalidade_bc_icms_st(bruto<modalidade_bc_icms_st>(6)))),
+     30, "A modalidade da base de cálculo por ST do ICMS está inválida", "6", {}},
+    {"CSOSN 10", tributar(grupo_tributacao_icms_102().set_csosn(bruto<csosn>(10))), 31,
+     "A situação de operação do simples nacional está inválida", "10", {}},
+    {"CST 11", tributar(icms00().set_cst(bruto<cst_icms>(11))), 32, "O código de tributação do ICMS está inválido",
+     "11", {}},
+    {"CST 11 passed on", tributar(grupo_repasse_icms_st().set_tributacao_icms(bruto<cst_icms>(11))), 32,
+     "O código de tributação do ICMS está inválido", "11", {}},
     {"relief reason 9",
      [](nota_fiscal& n) {
          tributar(
@@ -237,308 +194,110 @@ std::vector<recusa> const recusas = {
                     .set_cst(cst_icms::cst_40)
                     .set_grupo_icms_desonerado(grupo_icms_desonerado().set_motivo(bruto<motivo_desoneracao_icms>(9))));
      },
-     46,
-     "O motivo do ICMS desonerado está invaĺido",
-     "9",
-     {}},
+     46, "O motivo do ICMS desonerado está invaĺido", "9", {}},
     // ICMS: required values
-    {"ICMS00 without vBC",
-     [](nota_fiscal& n) { tributar(n, icms00().set_valor_bc_icms({})); },
-     47,
-     base_icms,
-     "O valor de vBC é obrigatório",
+    {"ICMS00 without vBC", tributar(icms00().set_valor_bc_icms({})), 47, base_icms, "O valor de vBC é obrigatório", {}},
+    {"ICMS00 without pICMS", tributar(icms00().set_aliquota_icms({})), 51, aliquota_icms,
+     "O valor de pICMS é obrigatório", {}},
+    {"ICMS00 without vICMS", tributar(icms00().set_valor_icms({})), 55, valor_icms, "O valor de vICMS é obrigatório",
      {}},
-    {"ICMS00 without pICMS",
-     [](nota_fiscal& n) { tributar(n, icms00().set_aliquota_icms({})); },
-     51,
-     aliquota_icms,
-     "O valor de pICMS é obrigatório",
-     {}},
-    {"ICMS00 without vICMS",
-     [](nota_fiscal& n) { tributar(n, icms00().set_valor_icms({})); },
-     55,
-     valor_icms,
-     "O valor de vICMS é obrigatório",
-     {}},
-    {"ICMS10 without vBCST",
-     [](nota_fiscal& n) { tributar(n, icms10().set_valor_bc_icms_st({})); },
-     47,
-     base_icms,
-     "O valor de vBCST é obrigatório",
-     {}},
-    {"ICMS10 without pICMSST",
-     [](nota_fiscal& n) { tributar(n, icms10().set_aliquota_icms_st({})); },
-     51,
-     aliquota_icms,
-     "O valor de pICMSST é obrigatório",
-     {}},
-    {"ICMS10 without vICMSST",
-     [](nota_fiscal& n) { tributar(n, icms10().set_valor_icms_st({})); },
-     55,
-     valor_icms,
-     "O valor de vICMSST é obrigatório",
-     {}},
-    {"ICMS20 without pRedBC",
-     [](nota_fiscal& n) { tributar(n, icms20().set_percentual_reducao_bc_icms({})); },
-     62,
-     "O percentual de redução da base de cálculo do ICMS está inválido",
-     "O valor de pRedBC é obrigatório",
-     {}},
-    {"ICMS20 without vBC, before pICMS",
-     [](nota_fiscal& n) { tributar(n, icms20().set_valor_bc_icms({}).set_aliquota_icms({})); },
-     47,
-     base_icms,
-     "O valor de vBC é obrigatório",
-     {}},
-    {"ICMS30 without vICMSST",
-     [](nota_fiscal& n) { tributar(n, com_st(grupo_tributacao_icms_30()).set_valor_icms_st({})); },
-     55,
-     valor_icms,
-     "O valor de vICMSST é obrigatório",
-     {}},
-    {"ICMS70 without pRedBC",
-     [](nota_fiscal& n) { tributar(n, icms70().set_percentual_reducao_bc_icms({})); },
-     62,
-     "O percentual de redução da base de cálculo do ICMS está inválido",
-     "O valor de pRedBC é obrigatório",
-     {}},
-    {"ICMS70 without vBCST",
-     [](nota_fiscal& n) { tributar(n, icms70().set_valor_bc_icms_st({})); },
-     47,
-     base_icms,
-     "O valor de vBCST é obrigatório",
-     {}},
-    {"ICMS70 without vICMSST",
-     [](nota_fiscal& n) { tributar(n, icms70().set_valor_icms_st({})); },
-     55,
-     valor_icms,
-     "O valor de vICMSST é obrigatório",
-     {}},
-    {"ICMSSN101 without pCredSN",
-     [](nota_fiscal& n) { tributar(n, icms101().set_aliquota_de_credito_sn({})); },
-     56,
-     "A aliquota de crédito do ICMS está inválida",
-     "O valor de pCredSN é obrigatório",
-     {}},
-    {"ICMSSN101 without vCredICMSSN",
-     [](nota_fiscal& n) { tributar(n, icms101().set_valor_de_credito_sn({})); },
-     57,
-     "O valor do crédito do ICMS está inválida",
-     "O valor de vCredICMSSN é obrigatório",
-     {}},
-    {"ICMSSN201 without vCredICMSSN names pCredSN",
-     [](nota_fiscal& n) { tributar(n, icms201().set_valor_de_credito_sn({})); },
-     57,
-     "O valor do crédito do ICMS está inválida",
-     "O valor de pCredSN é obrigatório",
-     {}},
-    {"ICMSSN201 without pICMSST",
-     [](nota_fiscal& n) { tributar(n, icms201().set_aliquota_icms_st({})); },
-     51,
-     aliquota_icms,
-     "O valor de pICMSST é obrigatório",
-     {}},
+    {"ICMS10 without vBCST", tributar(icms10().set_valor_bc_icms_st({})), 47, base_icms,
+     "O valor de vBCST é obrigatório", {}},
+    {"ICMS10 without pICMSST", tributar(icms10().set_aliquota_icms_st({})), 51, aliquota_icms,
+     "O valor de pICMSST é obrigatório", {}},
+    {"ICMS10 without vICMSST", tributar(icms10().set_valor_icms_st({})), 55, valor_icms,
+     "O valor de vICMSST é obrigatório", {}},
+    {"ICMS20 without pRedBC", tributar(icms20().set_percentual_reducao_bc_icms({})), 62,
+     "O percentual de redução da base de cálculo do ICMS está inválido", "O valor de pRedBC é obrigatório", {}},
+    {"ICMS20 without vBC, before pICMS", tributar(icms20().set_valor_bc_icms({}).set_aliquota_icms({})), 47, base_icms,
+     "O valor de vBC é obrigatório", {}},
+    {"ICMS30 without vICMSST", tributar(com_st(grupo_tributacao_icms_30()).set_valor_icms_st({})), 55, valor_icms,
+     "O valor de vICMSST é obrigatório", {}},
+    {"ICMS70 without pRedBC", tributar(icms70().set_percentual_reducao_bc_icms({})), 62,
+     "O percentual de redução da base de cálculo do ICMS está inválido", "O valor de pRedBC é obrigatório", {}},
+    {"ICMS70 without vBCST", tributar(icms70().set_valor_bc_icms_st({})), 47, base_icms,
+     "O valor de vBCST é obrigatório", {}},
+    {"ICMS70 without vICMSST", tributar(icms70().set_valor_icms_st({})), 55, valor_icms,
+     "O valor de vICMSST é obrigatório", {}},
+    {"ICMSSN101 without pCredSN", tributar(icms101().set_aliquota_de_credito_sn({})), 56,
+     "A aliquota de crédito do ICMS está inválida", "O valor de pCredSN é obrigatório", {}},
+    {"ICMSSN101 without vCredICMSSN", tributar(icms101().set_valor_de_credito_sn({})), 57,
+     "O valor do crédito do ICMS está inválida", "O valor de vCredICMSSN é obrigatório", {}},
+    {"ICMSSN201 without vCredICMSSN names pCredSN", tributar(icms201().set_valor_de_credito_sn({})), 57,
+     "O valor do crédito do ICMS está inválida", "O valor de pCredSN é obrigatório", {}},
+    {"ICMSSN201 without pICMSST", tributar(icms201().set_aliquota_icms_st({})), 51, aliquota_icms,
+     "O valor de pICMSST é obrigatório", {}},
     {"ICMSSN202 without vICMSST",
-     [](nota_fiscal& n) {
-         tributar(n, com_st(grupo_tributacao_icms_202().set_csosn(csosn::csosn_202)).set_valor_icms_st({}));
-     },
-     55,
-     valor_icms,
-     "O valor de vICMSST é obrigatório",
-     {}},
+     tributar(com_st(grupo_tributacao_icms_202().set_csosn(csosn::csosn_202)).set_valor_icms_st({})), 55, valor_icms,
+     "O valor de vICMSST é obrigatório", {}},
     // IPI
-    {"IPI CST 14",
-     [](nota_fiscal& n) { com_ipi(n, ipi_por_aliquota().set_cst_ipi(bruto<cst_ipi>(14))); },
-     43,
-     "O código de tributação do IPI está inválido",
-     "14",
-     {}},
-    {"producer's CNPJ with punctuation",
-     [](nota_fiscal& n) { com_ipi(n, ipi_por_aliquota().set_cnpj_produtor("08.931.527/0001-41")); },
-     75,
-     "O CNPJ do produtor está inválido",
-     "08.931.527/0001-41",
-     {conversor}},
-    {"class of framing not a number",
-     [](nota_fiscal& n) { com_ipi(n, ipi_por_aliquota().set_classe_enquadramento_ipi("99A")); },
-     76,
-     "A classe enquadramento do IPI está inválida",
-     "99A",
-     {conversor}},
+    {"IPI CST 14", com_ipi(ipi_por_aliquota().set_cst_ipi(bruto<cst_ipi>(14))), 43,
+     "O código de tributação do IPI está inválido", "14", {}},
+    {"producer's CNPJ with punctuation", com_ipi(ipi_por_aliquota().set_cnpj_produtor("08.931.527/0001-41")), 75,
+     "O CNPJ do produtor está inválido", "08.931.527/0001-41", {conversor}},
+    {"class of framing not a number", com_ipi(ipi_por_aliquota().set_classe_enquadramento_ipi("99A")), 76,
+     "A classe enquadramento do IPI está inválida", "99A", {conversor}},
     {"class of framing longer than 16 characters",
-     [](nota_fiscal& n) { com_ipi(n, ipi_por_aliquota().set_classe_enquadramento_ipi("00000000000000999")); },
-     76,
-     "A classe enquadramento do IPI está inválida",
-     "00000000000000999",
-     {conversor}},
+     com_ipi(ipi_por_aliquota().set_classe_enquadramento_ipi("00000000000000999")), 76,
+     "A classe enquadramento do IPI está inválida", "00000000000000999", {conversor}},
     {"IPI without rate, checked before the base",
-     [](nota_fiscal& n) {
-         com_ipi(n, ipi_por_aliquota().set_tributacao_ipi_calculo_aliquota(tributacao_ipi_calculo_aliquota()));
-     },
-     54,
-     aliquota_ipi,
-     "O valor pIPI é obrigatório para o cálculo do IPI",
-     {}},
+     com_ipi(ipi_por_aliquota().set_tributacao_ipi_calculo_aliquota(tributacao_ipi_calculo_aliquota())), 54,
+     aliquota_ipi, "O valor pIPI é obrigatório para o cálculo do IPI", {}},
     {"IPI without base",
-     [](nota_fiscal& n) {
-         com_ipi(n, ipi_por_aliquota().set_tributacao_ipi_calculo_aliquota(
-                        tributacao_ipi_calculo_aliquota().set_aliquota_ipi(valor("10.00"))));
-     },
-     50,
-     "A base de cálculo do IPI está inválida",
-     "O valor vBC é obrigatório para o cálculo do IPI",
-     {}},
+     com_ipi(ipi_por_aliquota().set_tributacao_ipi_calculo_aliquota(
+                 tributacao_ipi_calculo_aliquota().set_aliquota_ipi(valor("10.00")))),
+     50, "A base de cálculo do IPI está inválida", "O valor vBC é obrigatório para o cálculo do IPI", {}},
     {"IPI by unit without the value per unit",
-     [](nota_fiscal& n) {
-         com_ipi(n, ipi_por_aliquota().set_tributacao_ipi_calculo_aliquota({}).set_tributacao_ipi_calculo_valor(
-                        tributacao_ipi_calculo_valor()));
-     },
-     63,
-     "A unidade tributável está inválida",
-     "null",
-     {}},
+     com_ipi(ipi_por_aliquota().set_tributacao_ipi_calculo_aliquota({}).set_tributacao_ipi_calculo_valor(
+                 tributacao_ipi_calculo_valor())),
+     63, "A unidade tributável está inválida", "null", {}},
     // PIS and COFINS
-    {"PISAliq CST 2",
-     [](nota_fiscal& n) { com_pis(n, pis_aliquota().set_cst_pis(bruto<cst_pis_cofins_aliquota>(2))); },
-     33,
-     "O código de tributação do PIS está inválido",
-     "2",
-     {}},
-    {"PISNT CST 6",
-     [](nota_fiscal& n) { com_pis(n, grupo_tributacao_pis_nt().set_cst_pis(bruto<cst_pis_cofins_nao_tributado>(6))); },
-     34,
-     "O código do PIS não tributado está inválido",
-     "6",
-     {}},
-    {"PISOutr CST 24",
-     [](nota_fiscal& n) { com_pis(n, pis_outros().set_cst_pis(bruto<cst_pis_cofins_outras_operacoes>(24))); },
-     35,
-     "O código de outras operações do PIS está inválido",
-     "24",
-     {}},
-    {"COFINSAliq CST 2",
-     [](nota_fiscal& n) { com_cofins(n, cofins_aliquota().set_cst_cofins(bruto<cst_pis_cofins_aliquota>(2))); },
-     36,
-     "O código de tributação COFINS está inválido",
-     "2",
-     {}},
-    {"COFINSNT CST 6",
-     [](nota_fiscal& n) {
-         com_cofins(n, grupo_tributacao_cofins_nt().set_cst_cofins(bruto<cst_pis_cofins_nao_tributado>(6)));
-     },
-     37,
-     "O código do COFINS não tributado está inválido",
-     "6",
-     {}},
-    {"COFINSOutr CST 24",
-     [](nota_fiscal& n) { com_cofins(n, cofins_outros().set_cst_cofins(bruto<cst_pis_cofins_outras_operacoes>(24))); },
-     38,
-     "O código de outras opraçãoes de COFINS está inválido",
-     "24",
-     {}},
-    {"PISAliq without base",
-     [](nota_fiscal& n) { com_pis(n, pis_aliquota().set_valor_bc_pis({})); },
-     48,
-     "A base de cálculo do PIS está inválida",
-     "O valor vBC referente ao PIS é obrigatório",
-     {}},
-    {"PISAliq without rate",
-     [](nota_fiscal& n) { com_pis(n, pis_aliquota().set_percentual_aliquota_pis({})); },
-     52,
-     "A aliquota do PIS está inválida",
-     "O valor pPIS é obrigatório",
-     {}},
-    {"PISOutr without base",
-     [](nota_fiscal& n) { com_pis(n, pis_outros().set_valor_bc_pis({})); },
-     48,
-     "A base de cálculo do PIS está inválida",
-     "O valor vBC é obrigatório para o cálculo do PIS",
-     {}},
-    {"PISOutr without rate, reported with the code of IPI",
-     [](nota_fiscal& n) { com_pis(n, pis_outros().set_percentual_aliquota_pis({})); },
-     54,
-     aliquota_ipi,
-     "O valor pPIS é obrigatório para o cálculo do PIS",
-     {}},
-    {"COFINSAliq without base",
-     [](nota_fiscal& n) { com_cofins(n, cofins_aliquota().set_valor_bc_cofins({})); },
-     49,
-     "A base de cálculo do COFINS está inválida",
-     "O valor vBC é obrigatório para o cálculo da COFINS",
-     {}},
-    {"COFINSAliq without rate",
-     [](nota_fiscal& n) { com_cofins(n, cofins_aliquota().set_percentual_aliquota_cofins({})); },
-     53,
-     "A aliquota do COFINS está inválida",
-     "O valor pCOFINS é obrigatório para o cálculo da COFINS",
-     {}},
-    {"COFINSOutr without base, without the verb",
-     [](nota_fiscal& n) { com_cofins(n, cofins_outros().set_valor_bc_cofins({})); },
-     49,
-     "A base de cálculo do COFINS está inválida",
-     "O valor vBC obrigatório para o cálculo da COFINS",
-     {}},
-    {"COFINSOutr without rate",
-     [](nota_fiscal& n) { com_cofins(n, cofins_outros().set_percentual_aliquota_cofins({})); },
-     53,
-     "A aliquota do COFINS está inválida",
-     "O valor pCOFINS é obrigatório para o cálculo da COFINS",
-     {}},
+    {"PISAliq CST 2", com_pis(pis_aliquota().set_cst_pis(bruto<cst_pis_cofins_aliquota>(2))), 33,
+     "O código de tributação do PIS está inválido", "2", {}},
+    {"PISNT CST 6", com_pis(grupo_tributacao_pis_nt().set_cst_pis(bruto<cst_pis_cofins_nao_tributado>(6))), 34,
+     "O código do PIS não tributado está inválido", "6", {}},
+    {"PISOutr CST 24", com_pis(pis_outros().set_cst_pis(bruto<cst_pis_cofins_outras_operacoes>(24))), 35,
+     "O código de outras operações do PIS está inválido", "24", {}},
+    {"COFINSAliq CST 2", com_cofins(cofins_aliquota().set_cst_cofins(bruto<cst_pis_cofins_aliquota>(2))), 36,
+     "O código de tributação COFINS está inválido", "2", {}},
+    {"COFINSNT CST 6", com_cofins(grupo_tributacao_cofins_nt().set_cst_cofins(bruto<cst_pis_cofins_nao_tributado>(6))),
+     37, "O código do COFINS não tributado está inválido", "6", {}},
+    {"COFINSOutr CST 24", com_cofins(cofins_outros().set_cst_cofins(bruto<cst_pis_cofins_outras_operacoes>(24))), 38,
+     "O código de outras opraçãoes de COFINS está inválido", "24", {}},
+    {"PISAliq without base", com_pis(pis_aliquota().set_valor_bc_pis({})), 48, "A base de cálculo do PIS está inválida",
+     "O valor vBC referente ao PIS é obrigatório", {}},
+    {"PISAliq without rate", com_pis(pis_aliquota().set_percentual_aliquota_pis({})), 52,
+     "A aliquota do PIS está inválida", "O valor pPIS é obrigatório", {}},
+    {"PISOutr without base", com_pis(pis_outros().set_valor_bc_pis({})), 48, "A base de cálculo do PIS está inválida",
+     "O valor vBC é obrigatório para o cálculo do PIS", {}},
+    {"PISOutr without rate, reported with the code of IPI", com_pis(pis_outros().set_percentual_aliquota_pis({})), 54,
+     aliquota_ipi, "O valor pPIS é obrigatório para o cálculo do PIS", {}},
+    {"COFINSAliq without base", com_cofins(cofins_aliquota().set_valor_bc_cofins({})), 49,
+     "A base de cálculo do COFINS está inválida", "O valor vBC é obrigatório para o cálculo da COFINS", {}},
+    {"COFINSAliq without rate", com_cofins(cofins_aliquota().set_percentual_aliquota_cofins({})), 53,
+     "A aliquota do COFINS está inválida", "O valor pCOFINS é obrigatório para o cálculo da COFINS", {}},
+    {"COFINSOutr without base, without the verb", com_cofins(cofins_outros().set_valor_bc_cofins({})), 49,
+     "A base de cálculo do COFINS está inválida", "O valor vBC obrigatório para o cálculo da COFINS", {}},
+    {"COFINSOutr without rate", com_cofins(cofins_outros().set_percentual_aliquota_cofins({})), 53,
+     "A aliquota do COFINS está inválida", "O valor pCOFINS é obrigatório para o cálculo da COFINS", {}},
     // Closing groups
     {"freight mode 6, with the words of the type of issue",
      [](nota_fiscal& n) {
          n.set_informacoes_transporte(n.get_informacoes_transporte().set_modalidade_frete(bruto<modalidade_frete>(6)));
      },
-     45,
-     "O tipo de emissão está inválido",
-     "6",
-     {}},
+     45, "O tipo de emissão está inválido", "6", {}},
     {"payment form 2",
-     [](nota_fiscal& n) {
-         pago_com(n, cartao(transacao_tef()).set_indicador_forma_pagamento(bruto<indicador_forma_pagamento>(2)));
-     },
-     39,
-     "O indicador da forma de pagamento está inválido",
-     "2",
-     {}},
-    {"means of payment 17",
-     [](nota_fiscal& n) { pago_com(n, cartao(transacao_tef()).set_meio_pagamento(bruto<meio_pagamento>(17))); },
-     40,
-     "O indicador do tipo de pagamento está inválido",
-     "17",
-     {}},
-    {"integration type 2",
-     [](nota_fiscal& n) {
-         pago_com(n, cartao(transacao_tef().set_tipo_integracao(bruto<tipo_integracao_pagamento>(2))));
-     },
-     41,
-     "O tipo de integração do pagamento está inválido",
-     "2",
-     {}},
-    {"card brand 28",
-     [](nota_fiscal& n) { pago_com(n, cartao(transacao_tef().set_bandeira(bruto<bandeira_cartao>(28)))); },
-     42,
-     "A bandeira do cartão usado na transação está inválido",
-     "28",
-     {}},
-    {"process origin 4",
-     [](nota_fiscal& n) { processo(n, 4); },
-     77,
-     "O indicador da origem do processo está inválido",
-     "4",
-     {}},
-    {"process origin 8",
-     [](nota_fiscal& n) { processo(n, 8); },
-     77,
-     "O indicador da origem do processo está inválido",
-     "8",
-     {}},
-    {"process origin 10",
-     [](nota_fiscal& n) { processo(n, 10); },
-     77,
-     "O indicador da origem do processo está inválido",
-     "10",
-     {}},
+     pago_com(cartao(transacao_tef()).set_indicador_forma_pagamento(bruto<indicador_forma_pagamento>(2))), 39,
+     "O indicador da forma de pagamento está inválido", "2", {}},
+    {"means of payment 17", pago_com(cartao(transacao_tef()).set_meio_pagamento(bruto<meio_pagamento>(17))), 40,
+     "O indicador do tipo de pagamento está inválido", "17", {}},
+    {"integration type 2", pago_com(cartao(transacao_tef().set_tipo_integracao(bruto<tipo_integracao_pagamento>(2)))),
+     41, "O tipo de integração do pagamento está inválido", "2", {}},
+    {"card brand 28", pago_com(cartao(transacao_tef().set_bandeira(bruto<bandeira_cartao>(28)))), 42,
+     "A bandeira do cartão usado na transação está inválido", "28", {}},
+    {"process origin 4", processo(4), 77, "O indicador da origem do processo está inválido", "4", {}},
+    {"process origin 8", processo(8), 77, "O indicador da origem do processo está inválido", "8", {}},
+    {"process origin 10", processo(10), 77, "O indicador da origem do processo está inválido", "10", {}},
 };
 
 class montar_recusa_imposto : public testing::TestWithParam<recusa> {};

@@ -16,6 +16,7 @@ namespace {
 using namespace velk::erp::fiscal;
 using velk::core::result::stack;
 using velk::erp::tarn::nfe::layout_4_00::montar_layout_4_00;
+using velk::test::alteracao;
 using velk::test::no_destinatario;
 using velk::test::no_emitente;
 using velk::test::no_endereco_emitente;
@@ -27,188 +28,156 @@ using velk::test::nome_do_caso;
 using velk::test::recusa;
 
 template <class Alterar>
-void na_entrega(nota_fiscal& nota, Alterar alterar)
+alteracao na_entrega(Alterar alterar)
 {
-    local_entrega parte = *nota.get_local_entrega();
-    alterar(parte);
-    nota.set_local_entrega(parte);
+    return [alterar](nota_fiscal& nota) {
+        local_entrega parte = *nota.get_local_entrega();
+        alterar(parte);
+        nota.set_local_entrega(parte);
+    };
 }
 
 // The item with the import declaration.
 template <class Alterar>
-void no_produto_importado(nota_fiscal& nota, Alterar alterar)
+alteracao no_produto_importado(Alterar alterar)
 {
-    velk::test::no_produto(nota, 1, alterar);
+    return [alterar](nota_fiscal& nota) { velk::test::no_produto(nota, 1, alterar); };
 }
 
 template <class Alterar>
-void na_declaracao_importacao(nota_fiscal& nota, Alterar alterar)
+alteracao na_declaracao_importacao(Alterar alterar)
 {
-    no_produto_importado(nota, [&](produto& p) {
+    return no_produto_importado([alterar](produto& p) {
         std::vector<declaracao_importacao> declaracoes = p.get_declaracao_importacao();
         alterar(declaracoes.at(0));
         p.set_declaracao_importacao(declaracoes);
     });
 }
 
-nfp_referenciada nota_produtor()
+template <class Alterar>
+alteracao com_nota_produtor(Alterar alterar)
 {
-    return nfp_referenciada()
-        .set_uf_emitente(35)
-        .set_ano_mes_emissao(2404)
-        .set_cpf("51739284682")
-        .set_ie("597012345110")
-        .set_modelo(modelo_nf_produtor::nf_produtor)
-        .set_serie("2")
-        .set_numero(388);
+    return [alterar](nota_fiscal& nota) {
+        nfp_referenciada referencia = nfp_referenciada()
+                                          .set_uf_emitente(35)
+                                          .set_ano_mes_emissao(2404)
+                                          .set_cpf("51739284682")
+                                          .set_ie("597012345110")
+                                          .set_modelo(modelo_nf_produtor::nf_produtor)
+                                          .set_serie("2")
+                                          .set_numero(388);
+        alterar(referencia);
+        nota.set_nfp_referenciadas({referencia});
+    };
 }
 
 template <class Alterar>
-void com_nota_produtor(nota_fiscal& nota, Alterar alterar)
+alteracao na_nota_referenciada(Alterar alterar)
 {
-    nfp_referenciada referencia = nota_produtor();
-    alterar(referencia);
-    nota.set_nfp_referenciadas({referencia});
-}
-
-template <class Alterar>
-void na_nota_referenciada(nota_fiscal& nota, Alterar alterar)
-{
-    std::vector<nf_referenciada> referencias = nota.get_nf_referenciadas();
-    alterar(referencias.at(0));
-    nota.set_nf_referenciadas(referencias);
+    return [alterar](nota_fiscal& nota) {
+        std::vector<nf_referenciada> referencias = nota.get_nf_referenciadas();
+        alterar(referencias.at(0));
+        nota.set_nf_referenciadas(referencias);
+    };
 }
 
 std::vector<recusa> const recusas = {
     {"producer's CNPJ with punctuation",
-     [](nota_fiscal& n) { com_nota_produtor(n, [](nfp_referenciada& r) { r.set_cnpj("51.739.284/0001-82"); }); }, 1,
+     com_nota_produtor([](nfp_referenciada& r) { r.set_cnpj("51.739.284/0001-82"); }), 1,
      "O CNPJ do produtor rural está inválido", "51.739.284/0001-82", {conversor, cnpj_interno}},
-    {"producer's CPF not a number",
-     [](nota_fiscal& n) { com_nota_produtor(n, [](nfp_referenciada& r) { r.set_cpf("517.392.846-82"); }); }, 2,
+    {"producer's CPF not a number", com_nota_produtor([](nfp_referenciada& r) { r.set_cpf("517.392.846-82"); }), 2,
      "O CPF do produtor rural está inválido", "517.392.846-82", {conversor, cpf_interno}},
-    {"producer without document",
-     [](nota_fiscal& n) { com_nota_produtor(n, [](nfp_referenciada& r) { r.set_cpf({}); }); }, 3,
+    {"producer without document", com_nota_produtor([](nfp_referenciada& r) { r.set_cpf({}); }), 3,
      "Nenhum documento informado para o produtor rural", nullptr, {}},
-    {"issuer's CNPJ with punctuation",
-     [](nota_fiscal& n) { no_emitente(n, [](emitente& e) { e.set_cnpj("08.931.527/0001-41"); }); }, 4,
+    {"issuer's CNPJ with punctuation", no_emitente([](emitente& e) { e.set_cnpj("08.931.527/0001-41"); }), 4,
      "O CNPJ do emitente está inválido", "08.931.527/0001-41", {conversor, cnpj_interno}},
-    {"issuer without CNPJ", [](nota_fiscal& n) { no_emitente(n, [](emitente& e) { e.set_cnpj({}); }); }, 5,
+    {"issuer without CNPJ", no_emitente([](emitente& e) { e.set_cnpj({}); }), 5,
      "Nenhum documento informado para o emitente", nullptr, {}},
-    {"recipient's CNPJ not a number",
-     [](nota_fiscal& n) { no_destinatario(n, [](destinatario& d) { d.set_cnpj("abc"); }); }, 6,
+    {"recipient's CNPJ not a number", no_destinatario([](destinatario& d) { d.set_cnpj("abc"); }), 6,
      "O CNPJ do destinatario está inválido", "abc", {conversor, cnpj_interno}},
-    {"recipient's CPF with punctuation",
-     [](nota_fiscal& n) { no_destinatario(n, [](destinatario& d) { d.set_cpf("284.619.357-64"); }); }, 7,
+    {"recipient's CPF with punctuation", no_destinatario([](destinatario& d) { d.set_cpf("284.619.357-64"); }), 7,
      "O CPF do destinatario está inválido", "284.619.357-64", {conversor, cpf_interno}},
-    {"recipient without document",
-     [](nota_fiscal& n) { no_destinatario(n, [](destinatario& d) { d.set_cnpj({}); }); }, 9,
+    {"recipient without document", no_destinatario([](destinatario& d) { d.set_cnpj({}); }), 9,
      "Nenhum documento informado para o destinatario", nullptr, {}},
-    {"delivery CPF not a number",
-     [](nota_fiscal& n) { na_entrega(n, [](local_entrega& l) { l.set_cpf("CPF 28461935764"); }); }, 10,
+    {"delivery CPF not a number", na_entrega([](local_entrega& l) { l.set_cpf("CPF 28461935764"); }), 10,
      "O CPF informado para entrega está inválido", "CPF 28461935764", {conversor, cpf_interno}},
-    {"delivery CNPJ too long for a number",
-     [](nota_fiscal& n) { na_entrega(n, [](local_entrega& l) { l.set_cnpj(std::string(65, '1')); }); }, 11,
+    {"delivery CNPJ too long for a number", na_entrega([](local_entrega& l) { l.set_cnpj(std::string(65, '1')); }), 11,
      "O CNPJ informado para entrega está inválido", "11111111111111111111111111111111111111111111111111111111111111111",
      {conversor, cnpj_interno}},
-    {"delivery without document", [](nota_fiscal& n) { na_entrega(n, [](local_entrega& l) { l.set_cnpj({}); }); },
-     12, "Nenhum documento informado para entrega", nullptr, {}},
+    {"delivery without document", na_entrega([](local_entrega& l) { l.set_cnpj({}); }), 12,
+     "Nenhum documento informado para entrega", nullptr, {}},
     {"environment", [](nota_fiscal& n) { n.set_indicador_ambiente(bruto<indicador_ambiente>(2)); }, 16,
      "O ambiente de emissão inválido", "2", {}},
     {"final consumer", [](nota_fiscal& n) { n.set_operacao_consumidor_final(bruto<consumidor_final>(2)); }, 17,
      "A indicação de consumidor final está inválida", "2", {}},
     {"presence", [](nota_fiscal& n) { n.set_indicador_presenca(bruto<indicador_presenca>(7)); }, 18,
      "A indicação de presença do consumidor está inválida", "7", {}},
-    {"producer note model",
-     [](nota_fiscal& n) {
-         com_nota_produtor(n, [](nfp_referenciada& r) { r.set_modelo(bruto<modelo_nf_produtor>(2)); });
-     },
+    {"producer note model", com_nota_produtor([](nfp_referenciada& r) { r.set_modelo(bruto<modelo_nf_produtor>(2)); }),
      19, "O modelo da nota referenciada de produtor está inválido", "2", {}},
     {"receipt model",
      [](nota_fiscal& n) {
          n.set_cupons_referenciados({cupom_referenciado().set_modelo(bruto<modelo_cupom_fiscal>(3))});
      },
      20, "O modelo do cupom fiscal está inválido", "3", {}},
-    {"tax regime",
-     [](nota_fiscal& n) { no_emitente(n, [](emitente& e) { e.set_regime_fiscal(bruto<regime_tributario>(3)); }); },
-     21, "O código do regime tributário está inválido", "3", {}},
+    {"tax regime", no_emitente([](emitente& e) { e.set_regime_fiscal(bruto<regime_tributario>(3)); }), 21,
+     "O código do regime tributário está inválido", "3", {}},
     {"operation type", [](nota_fiscal& n) { n.set_tipo_operacao(bruto<tipo_operacao>(2)); }, 22,
      "Tipo de operação da nota inválido", "2", {}},
     {"destination", [](nota_fiscal& n) { n.set_indicador_operacao(bruto<destino_operacao>(3)); }, 23,
      "O destino de operação da nota está inválido", "3", {}},
     {"recipient's IE indicator",
-     [](nota_fiscal& n) {
-         no_destinatario(n, [](destinatario& d) { d.set_indicador_de_ie(bruto<indicador_ie_destinatario>(3)); });
-     },
-     24, "O indicador da IE do destinatário está inválido", "3", {}},
+     no_destinatario([](destinatario& d) { d.set_indicador_de_ie(bruto<indicador_ie_destinatario>(3)); }), 24,
+     "O indicador da IE do destinatário está inválido", "3", {}},
     {"item total indicator",
-     [](nota_fiscal& n) {
-         no_produto_importado(
-             n, [](produto& p) { p.set_indicador_item_compoe_valor_total(bruto<indicador_total>(2)); });
-     },
-     25, "O indicador no item referente a composição total está inválida", "2", {}},
+     no_produto_importado([](produto& p) { p.set_indicador_item_compoe_valor_total(bruto<indicador_total>(2)); }), 25,
+     "O indicador no item referente a composição total está inválida", "2", {}},
     {"import transport route",
-     [](nota_fiscal& n) {
-         na_declaracao_importacao(n, [](declaracao_importacao& d) { d.set_via_transporte(bruto<via_transporte>(13)); });
-     },
-     26, "O tipo da via de transporte está inválida", "13", {}},
+     na_declaracao_importacao([](declaracao_importacao& d) { d.set_via_transporte(bruto<via_transporte>(13)); }), 26,
+     "O tipo da via de transporte está inválida", "13", {}},
     {"import intermediation",
-     [](nota_fiscal& n) {
-         na_declaracao_importacao(n, [](declaracao_importacao& d) {
-             d.set_forma_intermedio_importacao(bruto<forma_intermedio_importacao>(3));
-         });
-     },
+     na_declaracao_importacao([](declaracao_importacao& d) {
+         d.set_forma_intermedio_importacao(bruto<forma_intermedio_importacao>(3));
+     }),
      27, "O tipo de intermediação do transporte está inválido", "3", {}},
     {"type of issue", [](nota_fiscal& n) { n.set_tipo_emissao(static_cast<tipo_emissao>(8)); }, 45,
      "O tipo de emissão está inválido", "8", {}},
     {"key of 43 characters",
      [](nota_fiscal& n) { n.set_chave_44_digitos("3524050893152700014155001000000721130417625"); }, 58,
      "A chave de acesso da nota fiscal está inválida", "3524050893152700014155001000000721130417625", {}},
-    {"issuer without CEP", [](nota_fiscal& n) { no_endereco_emitente(n, [](endereco& e) { e.set_cep({}); }); }, 59,
+    {"issuer without CEP", no_endereco_emitente([](endereco& e) { e.set_cep({}); }), 59,
      "O CEP do emitente está inválido", "null", {}},
-    {"recipient's phone with punctuation",
-     [](nota_fiscal& n) { no_destinatario(n, [](destinatario& d) { d.set_telefone("(21) 2555-1234"); }); }, 60,
-     "O telefone do destinatario está inválido", "(21) 2555-1234", {conversor}},
-    {"taxable quantity absent",
-     [](nota_fiscal& n) { no_produto_importado(n, [](produto& p) { p.set_quantidade_tributavel({}); }); }, 61,
+    {"recipient's phone with punctuation", no_destinatario([](destinatario& d) { d.set_telefone("(21) 2555-1234"); }),
+     60, "O telefone do destinatario está inválido", "(21) 2555-1234", {conversor}},
+    {"taxable quantity absent", no_produto_importado([](produto& p) { p.set_quantidade_tributavel({}); }), 61,
      "A quantidade tributável está inválida", "null", {}},
     {"purpose", [](nota_fiscal& n) { n.set_indicador_finalidade_emissao(bruto<finalidade_emissao>(4)); }, 64,
      "A finalidade de emissão está inválida", "4", {}},
-    {"XML access without document",
-     [](nota_fiscal& n) { n.set_autorizacoes_acesso_xml({autorizacao_acesso_xml()}); }, 66,
-     "Documento inválido para fornecer acesso ao xml da nota", nullptr, {}},
-    {"referenced note's CNPJ",
-     [](nota_fiscal& n) { na_nota_referenciada(n, [](nf_referenciada& r) { r.set_cnpj("62084519/0001-52"); }); }, 67,
+    {"XML access without document", [](nota_fiscal& n) { n.set_autorizacoes_acesso_xml({autorizacao_acesso_xml()}); },
+     66, "Documento inválido para fornecer acesso ao xml da nota", nullptr, {}},
+    {"referenced note's CNPJ", na_nota_referenciada([](nf_referenciada& r) { r.set_cnpj("62084519/0001-52"); }), 67,
      "O CNPJ da nota referenciada é inválido", "62084519/0001-52", {conversor, cnpj_interno}},
-    {"referenced note's series",
-     [](nota_fiscal& n) { na_nota_referenciada(n, [](nf_referenciada& r) { r.set_serie("1A"); }); }, 68,
+    {"referenced note's series", na_nota_referenciada([](nf_referenciada& r) { r.set_serie("1A"); }), 68,
      "A série da nota referenciada é inválida", "1A", {conversor}},
-    {"producer note's series",
-     [](nota_fiscal& n) { com_nota_produtor(n, [](nfp_referenciada& r) { r.set_serie("B"); }); }, 69,
+    {"producer note's series", com_nota_produtor([](nfp_referenciada& r) { r.set_serie("B"); }), 69,
      "A série da nota referenciada de produtor é inválida", "B", {conversor}},
-    {"issuer's state", [](nota_fiscal& n) { no_endereco_emitente(n, [](endereco& e) { e.set_uf("São Paulo"); }); },
-     70, "O código de IBGE está inválido", "São Paulo", {conversor}},
+    {"issuer's state", no_endereco_emitente([](endereco& e) { e.set_uf("São Paulo"); }), 70,
+     "O código de IBGE está inválido", "São Paulo", {conversor}},
     {"model", [](nota_fiscal& n) { n.set_modelo_emissao("A"); }, 71, "O modelo de emissão está inválido", "A",
      {conversor}},
     {"series longer than 16 characters", [](nota_fiscal& n) { n.set_serie("00000000000000001"); }, 72,
      "A série é inválida", "00000000000000001", {conversor}},
-    {"issuer's phone with blanks",
-     [](nota_fiscal& n) { no_emitente(n, [](emitente& e) { e.set_telefone("19 3234 5678"); }); }, 73,
+    {"issuer's phone with blanks", no_emitente([](emitente& e) { e.set_telefone("19 3234 5678"); }), 73,
      "O telefone do emitente está inválido", "19 3234 5678", {conversor}},
     {"importer's CNPJ",
-     [](nota_fiscal& n) {
-         na_declaracao_importacao(n, [](declaracao_importacao& d) { d.set_cnpj_importador("08.931.527/0001-41"); });
-     },
-     74, "O CNPJ do importador está inválido", "08.931.527/0001-41", {conversor}},
-    {"marketplace indicator",
-     [](nota_fiscal& n) { n.set_indicador_intermediador(bruto<indicador_intermediador>(2)); }, 78,
-     "O indicador de intermediador/marketplace está inválido", "2", {}},
+     na_declaracao_importacao([](declaracao_importacao& d) { d.set_cnpj_importador("08.931.527/0001-41"); }), 74,
+     "O CNPJ do importador está inválido", "08.931.527/0001-41", {conversor}},
+    {"marketplace indicator", [](nota_fiscal& n) { n.set_indicador_intermediador(bruto<indicador_intermediador>(2)); },
+     78, "O indicador de intermediador/marketplace está inválido", "2", {}},
     {"firearm type",
-     [](nota_fiscal& n) {
-         no_produto_importado(n, [](produto& p) {
-             p.set_armas(std::vector<arma>{arma().set_tipo(tipo_arma::uso_permitido),
-                                           arma().set_tipo(bruto<tipo_arma>(2))});
-         });
-     },
+     no_produto_importado([](produto& p) {
+         p.set_armas(std::vector<arma>{arma().set_tipo(tipo_arma::uso_permitido),
+                                       arma().set_tipo(bruto<tipo_arma>(2))});
+     }),
      81, "O tipo de arma está inválido", "2", {}},
 };
 

@@ -4,6 +4,8 @@
 #include <velk/erp/tarn/nfe/qrcode/obter_url_qrcode.hpp>
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
 
+#include "../sefaz_data/requisicao/documento_fiscal_teste.hpp"
+
 #include <support/files.hpp>
 #include <support/nfce_texto.hpp>
 #include <support/qrcode_esperado.hpp>
@@ -25,40 +27,11 @@ using nfe::processo_gerar_qrcode_result_category;
 using nfe::versao_qrcode;
 using nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::core::result::stack;
+using velk::test::documento_de_texto;
 using velk::test::nfce_campos;
+using velk::test::parse_or_fail;
 using dest = std::pair<std::string, std::string>;
 using arguments = std::vector<std::pair<std::string, std::string>>;
-
-velk::xml::document tree_of(std::string const& text)
-{
-    stack s;
-    velk::xml::document document;
-    EXPECT_TRUE(document.load(velk::core::byte_array(text), s)) << s.to_string();
-    return document;
-}
-
-documento_fiscal fiscal_of(std::string const& text)
-{
-    stack s;
-    documento_fiscal document = documento_fiscal::from_xml(tree_of(text), s);
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
-    return document;
-}
-
-nfce_campos campos(unsigned cuf, int tp_amb, bool offline, std::optional<dest> destinatario,
-                   std::string dh_emi = "2024-06-05T18:42:37-03:00", std::string vnf = "37.80",
-                   std::string vicms = "0.00")
-{
-    nfce_campos c;
-    c.cuf = cuf;
-    c.tp_amb = tp_amb;
-    c.contingencia_offline = offline;
-    c.destinatario = std::move(destinatario);
-    c.dh_emi = std::move(dh_emi);
-    c.vnf = std::move(vnf);
-    c.vicms = std::move(vicms);
-    return c;
-}
 
 struct corpus_case {
     char const* name;
@@ -70,22 +43,24 @@ struct corpus_case {
 };
 
 std::vector<corpus_case> const corpus = {
-    {"online, homologation, no consumer, token with zeros", campos(35, 2, false, std::nullopt), "000001", "1",
+    {"online, homologation, no consumer, token with zeros", {.cuf = 35, .tp_amb = 2}, "000001", "1",
      "8DC7D1F3A0B94E6C9F2A41D07E5B3C18A6F0", "https://www.homologacao.nfce.fazenda.sp.gov.br/qrcode?"},
-    {"online, homologation, CPF", campos(35, 2, false, dest{"CPF", "12345678909"}), "123456", "123456",
+    {"online, homologation, CPF", {.destinatario = dest{"CPF", "12345678909"}}, "123456", "123456",
      "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C", "http://consulta.teste/qrcode?"},
-    {"online, production, CNPJ, one zero", campos(41, 1, false, dest{"CNPJ", "11222333000181"}), "012345", "12345",
-     "F00DFACE1234567890ABCDEF1234567890AB", "http://www.fazenda.pr.gov.br/nfce/qrcode?"},
-    {"offline, homologation, no consumer, token of zeros", campos(41, 2, true, std::nullopt), "000000", "000000",
-     "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
-    {"offline, production, foreigner, day 09", campos(43, 1, true, dest{"idEstrangeiro", "AB1234567"},
-                                                       "2024-11-09T07:05:00-03:00", "1234.56", "12.34"),
+    {"online, production, CNPJ, one zero", {.cuf = 41, .tp_amb = 1, .destinatario = dest{"CNPJ", "11222333000181"}},
+     "012345", "12345", "F00DFACE1234567890ABCDEF1234567890AB", "http://www.fazenda.pr.gov.br/nfce/qrcode?"},
+    {"offline, homologation, no consumer, token of zeros", {.cuf = 41, .contingencia_offline = true}, "000000",
+     "000000", "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
+    {"offline, production, foreigner, day 09",
+     {.cuf = 43, .tp_amb = 1, .contingencia_offline = true, .dh_emi = "2024-11-09T07:05:00-03:00",
+      .destinatario = dest{"idEstrangeiro", "AB1234567"}, .vnf = "1234.56", .vicms = "12.34"},
      "000123", "123", "ZYXWVUTSRQPONMLKJIHGFEDCBA9876543210", "https://www.sefaz.rs.gov.br/NFCE/NFCE-COM.aspx?"},
-    {"offline, homologation, CPF, last day, Noronha", campos(26, 2, true, dest{"CPF", "98765432100"},
-                                                              "2024-12-31T23:59:59-02:00", "0.50", "0.09"),
+    {"offline, homologation, CPF, last day, Noronha",
+     {.cuf = 26, .contingencia_offline = true, .dh_emi = "2024-12-31T23:59:59-02:00",
+      .destinatario = dest{"CPF", "98765432100"}, .vnf = "0.50", .vicms = "0.09"},
      "900000", "900000", "csc-em-minusculas-0123456789abcdefghi", "http://app.sefaz.es.gov.br/ConsultaNFCe/"},
-    {"online, production, CPF, token of one digit", campos(35, 1, false, dest{"CPF", "52998224725"}), "000009",
-     "9", "1234", "x?"},
+    {"online, production, CPF, token of one digit", {.tp_amb = 1, .destinatario = dest{"CPF", "52998224725"}},
+     "000009", "9", "1234", "x?"},
 };
 
 TEST(obter_url_qrcode, corpus_gives_the_published_formula_in_both_versions)
@@ -93,20 +68,20 @@ TEST(obter_url_qrcode, corpus_gives_the_published_formula_in_both_versions)
     for (corpus_case const& current : corpus) {
         SCOPED_TRACE(current.name);
         velk::test::nfce_teste const nfce = velk::test::nfce_texto(current.fields);
-        std::string const digest = fiscal_of(nfce.texto).get_digest_value();
+        std::string const digest = documento_de_texto(nfce.texto).get_digest_value();
         ASSERT_EQ(digest.size(), 28U);
         velk::test::qrcode_entrada const entrada = velk::test::entrada_qrcode(current.fields, nfce, digest);
 
         stack s;
         std::string const url_100 = nfe::obter_url_qrcode(
-            informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, current.page), tree_of(nfce.texto),
+            informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, current.page), parse_or_fail(nfce.texto),
             current.token, current.csc, s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
         EXPECT_EQ(url_100, current.page + velk::test::qrcode_esperado_100(entrada, current.token, current.csc));
 
         std::string const url_200 = nfe::obter_url_qrcode(
             informacoes_adicionais(versao_qrcode::versao_200, std::string("ignored"), current.page),
-            tree_of(nfce.texto), current.token, current.csc, s);
+            parse_or_fail(nfce.texto), current.token, current.csc, s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
         EXPECT_EQ(url_200, current.page + velk::test::qrcode_esperado_200(entrada, current.token_200, current.csc));
 
@@ -126,8 +101,8 @@ TEST(obter_url_qrcode, a_qrcode_in_the_document_wins_over_every_argument)
     for (versao_qrcode const version : {versao_qrcode::versao_100, versao_qrcode::versao_200,
                                         static_cast<versao_qrcode>(9)}) {
         stack s;
-        EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(version, std::nullopt, "http://novo?"), tree_of(text),
-                                        "12", "", s),
+        EXPECT_EQ(nfe::obter_url_qrcode(informacoes_adicionais(version, std::nullopt, "http://novo?"),
+                                        parse_or_fail(text), "12", "", s),
                   "http://antigo?chNFe=1&a=b");
         EXPECT_FALSE(s.has_failed()) << s.to_string();
     }
@@ -163,12 +138,11 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
     };
     for (failure_case const& current : cases) {
         SCOPED_TRACE(current.name);
-        nfce_campos fields;
-        fields.contingencia_offline = current.offline;
+        nfce_campos const fields{.contingencia_offline = current.offline};
         stack s;
         std::string const url =
             nfe::obter_url_qrcode(informacoes_adicionais(current.version, std::nullopt, "http://pagina?"),
-                                  tree_of(velk::test::nfce_texto(fields).texto), current.token, current.csc, s);
+                                  parse_or_fail(velk::test::nfce_texto(fields).texto), current.token, current.csc, s);
         ASSERT_EQ(s.size(), 1U) << s.to_string();
         EXPECT_TRUE(s.get_category() == processo_gerar_qrcode_result_category::instance());
         EXPECT_EQ(s.get_value(), current.code);
@@ -181,8 +155,7 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
     // 5 characters are short for 1.00 but good for 2.00.
     stack s;
     std::string const url = nfe::obter_url_qrcode(informacoes_adicionais(versao_200, std::nullopt, ""),
-                                                  tree_of(velk::test::nfce_texto(nfce_campos{}).texto), "12345", csc,
-                                                  s);
+                                                  parse_or_fail(velk::test::nfce_texto({}).texto), "12345", csc, s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_NE(url.find("|12345|"), std::string::npos) << url;
 }
@@ -192,11 +165,9 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
 TEST(qrcode_generators, refuse_a_digest_of_the_wrong_length_only_where_they_write_it)
 {
     char const* const csc = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
-    nfce_campos online;
-    nfce_campos offline;
-    offline.contingencia_offline = true;
-    documento_fiscal const online_document = fiscal_of(velk::test::nfce_texto(online).texto);
-    documento_fiscal const offline_document = fiscal_of(velk::test::nfce_texto(offline).texto);
+    documento_fiscal const online_document = documento_de_texto(velk::test::nfce_texto({}).texto);
+    documento_fiscal const offline_document =
+        documento_de_texto(velk::test::nfce_texto({.contingencia_offline = true}).texto);
 
     struct {
         char const* name;
@@ -242,7 +213,7 @@ TEST(qrcode_generators, the_emission_type_is_that_of_the_key_not_of_ide)
     std::string text = nfce.texto;
     text.replace(text.find("<tpEmis>1</tpEmis>"), 18, "<tpEmis>9</tpEmis>");
     stack s;
-    std::string const qrcode = nfe::detail::gerar_qrcode_versao_200(fiscal_of(text), "", "7", "segredo", s);
+    std::string const qrcode = nfe::detail::gerar_qrcode_versao_200(documento_de_texto(text), "", "7", "segredo", s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(qrcode, "p=" + nfce.chave + "|2|2|7|" + velk::test::sha1_maiusculo(nfce.chave + "|2|2|7segredo"));
 }
@@ -263,7 +234,7 @@ TEST(qrcode_generators, a_hash_that_cannot_be_taken_is_code_6)
     setenv("OPENSSL_CONF", (folder / "openssl.cnf").c_str(), 1);
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     auto const generate = [&text](bool version_200) {
-        documento_fiscal const document = fiscal_of(text);
+        documento_fiscal const document = documento_de_texto(text);
         std::string const digest(28, 'A');
         stack s;
         std::string const qrcode =
@@ -287,7 +258,7 @@ TEST(adicionar_url_qrcode, puts_an_infnfesupl_ahead_of_infnfe_each_time)
 {
     nfce_campos fields;
     velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
-    velk::xml::document document = tree_of(nfce.texto);
+    velk::xml::document document = parse_or_fail(nfce.texto);
     informacoes_adicionais const informacoes(versao_qrcode::versao_100, std::string("http://chave"), "http://p?");
     stack s;
     // A failure leaves the tree as it was.
@@ -299,7 +270,7 @@ TEST(adicionar_url_qrcode, puts_an_infnfesupl_ahead_of_infnfe_each_time)
 
     s.reset();
     ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "segredo", s)) << s.to_string();
-    std::string const digest = fiscal_of(nfce.texto).get_digest_value();
+    std::string const digest = documento_de_texto(nfce.texto).get_digest_value();
     std::string const saved = velk::xml::document::save(document, s).to_string();
     std::string const expected = "<infNFeSupl><qrCode><![CDATA[http://p?" +
                                  velk::test::qrcode_esperado_100(velk::test::entrada_qrcode(fields, nfce, digest),

@@ -8,7 +8,6 @@
 
 #include <map>
 #include <regex>
-#include <set>
 #include <sstream>
 #include <string>
 
@@ -70,33 +69,6 @@ TEST(url_consulta_qrcode, every_state_has_its_published_page_but_ma_in_homologat
             }
         }
     }
-}
-
-TEST(url_consulta_qrcode, pages_end_where_the_qr_string_begins)
-{
-    std::set<std::string> const one_page = {"AL", "DF", "MS", "MG", "PI", "RJ", "RS", "RO", "PR"};
-    std::regex const address(R"(^https?://[a-z0-9.-]+(:\d+)?/[^?]*[?/]$)");
-    for (int number = 0; number < velk::erp::quantidade_estados; ++number) {
-        estado const state = static_cast<estado>(number);
-        SCOPED_TRACE(velk::erp::get_uf(state));
-        stack s;
-        std::string const production = lookup(ambiente::producao, versao::versao_4_00, state, s);
-        std::string const homologation = lookup(ambiente::homologacao, versao::versao_4_00, state, s);
-        EXPECT_TRUE(std::regex_match(production, address)) << production;
-        EXPECT_EQ(production.back(), state == estado::es ? '/' : '?');
-        if (state != estado::ma) {
-            EXPECT_TRUE(std::regex_match(homologation, address)) << homologation;
-            EXPECT_EQ(production == homologation, one_page.count(velk::erp::get_uf(state)) == 1);
-        }
-    }
-    stack s;
-    EXPECT_NE(lookup(ambiente::producao, versao::versao_3_10, estado::pr, s),
-              lookup(ambiente::producao, versao::versao_4_00, estado::pr, s));
-    EXPECT_EQ(lookup(ambiente::producao, versao::versao_3_10, estado::sp, s),
-              lookup(ambiente::producao, versao::versao_4_00, estado::sp, s));
-    EXPECT_EQ(lookup(ambiente::homologacao, versao::versao_4_00, estado::rr, s),
-              "http://200.174.88.103:8080/nfce/servlet/qrcode?");
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
 }
 
 TEST(url_consulta_qrcode, states_and_layouts_without_a_page)

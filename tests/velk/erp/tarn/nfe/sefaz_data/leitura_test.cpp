@@ -1,5 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 
+#include <support/xml_text.hpp>
 #include <velk/core/converter_result_category.hpp>
 #include <velk/xml/document.hpp>
 
@@ -11,17 +12,9 @@ namespace {
 
 namespace sefaz_data = velk::erp::tarn::nfe::sefaz_data;
 
-velk::xml::document parse(std::string const& text)
-{
-    velk::xml::document document;
-    velk::core::result::stack stack;
-    EXPECT_TRUE(document.load(velk::core::byte_array(text), stack)) << stack.to_string();
-    return document;
-}
-
 TEST(leitura, paths_take_their_first_occurrence_and_only_wanted_paths_are_found)
 {
-    auto const document = parse(
+    auto const document = velk::test::parse_or_fail(
         "<ret xmlns:p=\"urn:x\"><p:a><b>1</b><b>2</b></p:a><a><b>3</b><c>4</c></a><d>5</d><x><y>6</y></x></ret>");
     auto const found = sefaz_data::find_elements_by_path(*document.get_root_element(),
                                                          {"a/b", "a/c", "d", "a/b", "z", "x"});
@@ -41,7 +34,7 @@ TEST(leitura, paths_take_their_first_occurrence_and_only_wanted_paths_are_found)
 
 TEST(leitura, values_read_with_the_reports_of_the_frame)
 {
-    auto const document = parse("<r><cStat></cStat><tMed>12345678901234567</tMed><x>texto</x></r>");
+    auto const document = velk::test::parse_or_fail("<r><cStat></cStat><tMed>12345678901234567</tMed><x>texto</x></r>");
     auto const found = sefaz_data::find_elements_by_path(*document.get_root_element(), {"cStat", "tMed", "x", "falta"});
 
     velk::core::result::stack stack;

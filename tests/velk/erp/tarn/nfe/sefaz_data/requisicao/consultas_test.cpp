@@ -4,6 +4,7 @@
 
 #include <support/files.hpp>
 #include <support/schema.hpp>
+#include <support/xml_text.hpp>
 #include <velk/core/converter_result_category.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 #include <velk/xml/document.hpp>
@@ -28,18 +29,9 @@ chave_acesso key()
     return value;
 }
 
-velk::xml::document as_document(velk::xml::element const& root)
-{
-    stack ignored;
-    velk::xml::document document;
-    document.append_node(root, ignored);
-    return document;
-}
-
 std::string text_of(velk::xml::element const& root)
 {
-    stack ignored;
-    std::string const saved = velk::xml::document::save(as_document(root), ignored).to_string();
+    std::string const saved = velk::test::saved_text(root);
     return saved.substr(saved.find('\n') + 1);
 }
 
@@ -100,8 +92,7 @@ TEST(consultas, write_their_messages_in_order_and_by_the_schemas)
         ASSERT_FALSE(s.has_failed()) << s.to_string();
         EXPECT_EQ(text_of(root), current.expected);
         if (*current.schema != '\0') {
-            auto const problems = velk::test::validate_against_schema(velk::test::schema_dir() / current.schema,
-                                                                       as_document(root));
+            auto const problems = velk::test::validate_against_schema(velk::test::schema_dir() / current.schema, root);
             EXPECT_TRUE(problems.empty()) << problems.front();
         }
     }

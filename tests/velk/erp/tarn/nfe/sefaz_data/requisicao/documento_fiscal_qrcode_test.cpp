@@ -25,22 +25,13 @@ using nfe::versao_qrcode;
 using nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::core::result::stack;
 using velk::test::child_element_names;
-using velk::test::taxpayer;
-using velk::test::text_of;
+using velk::test::documento_de_texto;
+using velk::test::saved_text;
+using velk::test::taxpayer_pkcs12;
 
 constexpr char csc[] = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
 constexpr char url_chave[] = "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta";
 constexpr char pagina[] = "https://www.homologacao.nfce.fazenda.sp.gov.br/qrcode?";
-
-documento_fiscal read(std::string const& text)
-{
-    stack s;
-    velk::xml::document tree;
-    EXPECT_TRUE(tree.load(velk::core::byte_array(text), s)) << s.to_string();
-    documento_fiscal document = documento_fiscal::from_xml(tree, s);
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
-    return document;
-}
 
 // The only child of a tag of infNFeSupl must be a CDATA section; its text.
 std::string cdata_of(velk::xml::element const& nfe, char const* tag)
@@ -68,7 +59,7 @@ void expect_signed_nfce(documento_fiscal const& document, std::string const& exp
     EXPECT_EQ(cdata_of(nfe, "qrCode"), expected_qrcode);
     EXPECT_EQ(cdata_of(nfe, "urlChave"), url_chave);
 
-    std::string const text = text_of(nfe);
+    std::string const text = saved_text(nfe);
     EXPECT_NE(text.find("<qrCode><![CDATA["), std::string::npos);
     EXPECT_NE(text.find("<urlChave><![CDATA["), std::string::npos);
     auto const problems =
@@ -79,7 +70,7 @@ void expect_signed_nfce(documento_fiscal const& document, std::string const& exp
     EXPECT_TRUE(verified.success) << verified.output;
 
     // Read back, the fields and the tree agree.
-    documento_fiscal const again = read(text);
+    documento_fiscal const again = documento_de_texto(text);
     EXPECT_EQ(again.get_qrcode_value().value_or("(absent)"), document.get_qrcode_value().value_or("(none)"));
     EXPECT_EQ(again.get_url_chave().value_or("(absent)"), document.get_url_chave().value_or("(none)"));
 }
@@ -103,14 +94,12 @@ TEST(documento_fiscal_qrcode, a_signed_nfce_carries_the_qrcode_made_from_its_sig
          std::pair<std::string, std::string>{"CNPJ", "11222333000181"}},
         {"2.00 offline, no consumer", true, versao_qrcode::versao_200, "012345", "12345", std::nullopt},
     };
-    velk::cryptography::pkcs12 const certificate = taxpayer();
+    velk::cryptography::pkcs12 const& certificate = taxpayer_pkcs12();
     for (signing_case const& current : cases) {
         SCOPED_TRACE(current.name);
-        velk::test::nfce_campos fields;
-        fields.contingencia_offline = current.offline;
-        fields.destinatario = current.consumer;
+        velk::test::nfce_campos const fields{.contingencia_offline = current.offline, .destinatario = current.consumer};
         velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
-        documento_fiscal document = read(nfce.texto);
+        documento_fiscal document = documento_de_texto(nfce.texto);
 
         informacoes_adicionais const informacoes(current.version, std::string(url_chave), pagina);
         stack s;
@@ -132,10 +121,6 @@ TEST(documento_fiscal_qrcode, a_signed_nfce_carries_the_qrcode_made_from_its_sig
             pagina + (current.version == versao_qrcode::versao_100
                           ? velk::test::qrcode_esperado_100(entrada, current.token, csc)
                           : velk::test::qrcode_esperado_200(entrada, current.token_written, csc));
-        EXPECT_EQ(document.get_qrcode_value().value_or("(absent)"), expected);
-        if (current.version == versao_qrcode::versao_100 || current.offline) {
-            EXPECT_NE(expected.find(velk::test::hex_minusculo(signed_digest)), std::string::npos);
-        }
         expect_signed_nfce(document, expected);
     }
 }
@@ -143,7 +128,7 @@ TEST(documento_fiscal_qrcode, a_signed_nfce_carries_the_qrcode_made_from_its_sig
 // Every NFC-e of the corpus, generated from its note, in both versions.
 TEST(documento_fiscal_qrcode, generated_nfce_sign_and_validate_with_their_supplement)
 {
-    velk::cryptography::pkcs12 const certificate = taxpayer();
+    velk::cryptography::pkcs12 const& certificate = taxpayer_pkcs12();
     int nfce = 0;
     for (velk::test::nota_do_corpus const& nota : velk::test::corpus_notas()) {
         if (nota.criar().get_modelo_emissao() != "65") {
@@ -184,7 +169,7 @@ TEST(documento_fiscal_qrcode, generated_nfce_sign_and_validate_with_their_supple
 TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_empty_supplement)
 {
     velk::test::nfce_campos fields;
-    documento_fiscal document = read(velk::test::nfce_texto(fields).texto);
+    documento_fiscal document = documento_de_texto(velk::test::nfce_texto(fields).texto);
 
     // A failure: the supplement is made, the value stays unset.
     stack s;
@@ -218,7 +203,7 @@ TEST(documento_fiscal_qrcode, url_chave_replaces_and_removes_the_former_one)
     text.replace(text.find("</NFe>"), 6,
                  "<infNFeSupl><urlChave>http://a</urlChave><qrCode>x</qrCode><urlChave>http://b</urlChave>"
                  "</infNFeSupl></NFe>");
-    documento_fiscal document = read(text);
+    documento_fiscal document = documento_de_texto(text);
     EXPECT_EQ(*document.get_url_chave(), "http://a");
 
     document.adicionar_url_chave(informacoes_adicionais(versao_qrcode::versao_100, std::string("http://c&d"), ""));
@@ -232,7 +217,7 @@ TEST(documento_fiscal_qrcode, url_chave_replaces_and_removes_the_former_one)
     EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
 
     // On a tree without a supplement, an empty one is made and left.
-    documento_fiscal bare = read(velk::test::nfce_texto(velk::test::nfce_campos{}).texto);
+    documento_fiscal bare = documento_de_texto(velk::test::nfce_texto(velk::test::nfce_campos{}).texto);
     bare.adicionar_url_chave(informacoes_adicionais());
     EXPECT_EQ(child_element_names(bare.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
     EXPECT_TRUE(child_element_names(*bare.get_xml().find_child("infNFeSupl")).empty());

@@ -8,6 +8,7 @@
 #include <support/xmlsec.hpp>
 #include <velk/core/converter_result_category.hpp>
 #include <velk/cryptography/cryptography_result_category.hpp>
+#include <velk/erp/tarn/nfe/detail/assinatura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 #include <velk/xml/node.hpp>
@@ -24,37 +25,15 @@ using namespace velk::erp::tarn::nfe::sefaz_data;
 using requisicao::documento_fiscal;
 using velk::core::result::stack;
 using velk::test::child_element_names;
-using velk::test::taxpayer;
-using velk::test::text_of;
-
-velk::xml::element parse(std::string const& text)
-{
-    stack s;
-    velk::xml::document document;
-    EXPECT_TRUE(document.load(velk::core::byte_array(text), s)) << s.to_string();
-    return *document.get_root_element();
-}
+using velk::test::parse_element;
+using velk::test::saved_text;
+using velk::test::taxpayer_pkcs12;
 
 // The NFe of a sample: the file's root, or the NFe inside an nfeProc.
 velk::xml::element sample_nfe(std::string const& file)
 {
-    velk::xml::element root = parse(velk::test::read_text(velk::test::sample("messages/" + file)));
-    if (root.get_name() == "nfeProc") {
-        return *root.find_child("NFe");
-    }
-    return root;
-}
-
-bool remove_signature(velk::xml::element& nfe)
-{
-    auto children = nfe.get_node_range();
-    for (auto position = children.begin(); position != children.end(); ++position) {
-        if (position->as_element() != nullptr && position->as_element()->get_name() == "Signature") {
-            children.erase(position);
-            return true;
-        }
-    }
-    return false;
+    velk::xml::element root = parse_element(velk::test::read_text(velk::test::sample("messages/" + file)));
+    return root.get_name() == "nfeProc" ? *root.find_child("NFe") : root;
 }
 
 std::string contents_at(velk::xml::element const& root, std::string const& path)
@@ -160,12 +139,12 @@ TEST(documento_fiscal, signs_every_sample_so_that_verifier_and_schema_accept_it)
         {"2017protocoled.xml", "nfe_v3.10.xsd", true},
         {"42220575277525000178550030000292481295366801-procNFe.xml", "nfe_v4.00.xsd", true},
     };
-    velk::cryptography::pkcs12 const certificate = taxpayer();
+    velk::cryptography::pkcs12 const& certificate = taxpayer_pkcs12();
     for (signing_case const& current : cases) {
         SCOPED_TRACE(current.file);
         velk::xml::element const original = sample_nfe(current.file);
         velk::xml::element unsigned_nfe = original;
-        remove_signature(unsigned_nfe);
+        velk::erp::tarn::nfe::detail::remover_primeira_assinatura(unsigned_nfe);
 
         stack s;
         // The digest the QR code takes before there is a signature.
@@ -183,7 +162,7 @@ TEST(documento_fiscal, signs_every_sample_so_that_verifier_and_schema_accept_it)
         EXPECT_EQ(contents_at(signed_nfe, "Signature/SignedInfo/Reference/DigestValue"), digest_before);
         EXPECT_EQ(document.get_digest_value(), digest_before);
 
-        std::string const text = text_of(signed_nfe);
+        std::string const text = saved_text(signed_nfe);
         auto const verified =
             velk::test::xmlsec_verify(text, velk::test::id_infnfe, velk::test::test_certificates::instance().ca_pem());
         EXPECT_TRUE(verified.success) << verified.output;
@@ -195,7 +174,7 @@ TEST(documento_fiscal, signs_every_sample_so_that_verifier_and_schema_accept_it)
 
 TEST(documento_fiscal, signing_again_replaces_only_the_first_signature)
 {
-    velk::cryptography::pkcs12 const certificate = taxpayer();
+    velk::cryptography::pkcs12 const& certificate = taxpayer_pkcs12();
     stack s;
     documento_fiscal document = documento_fiscal::from_xml(sample_nfe("nfce_contingencia.xml"), s);
     document.assinar(certificate, s);
@@ -203,7 +182,7 @@ TEST(documento_fiscal, signing_again_replaces_only_the_first_signature)
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(child_element_names(document.get_xml()),
               (std::vector<std::string>{"infNFe", "infNFeSupl", "Signature"}));
-    auto const verified = velk::test::xmlsec_verify(text_of(document.get_xml()), velk::test::id_infnfe,
+    auto const verified = velk::test::xmlsec_verify(saved_text(document.get_xml()), velk::test::id_infnfe,
                                                     velk::test::test_certificates::instance().ca_pem());
     EXPECT_TRUE(verified.success) << verified.output;
 
@@ -228,7 +207,7 @@ TEST(documento_fiscal, the_infnfe_it_digests_outlives_the_element_it_came_from)
     documento_fiscal copy;
     {
         velk::xml::element source = sample_nfe("nfe_layout4.xml");
-        remove_signature(source);
+        velk::erp::tarn::nfe::detail::remover_primeira_assinatura(source);
         documento_fiscal const original = documento_fiscal::from_xml(source, s);
         expected = original.get_digest_value();
         copy = original;
@@ -239,7 +218,7 @@ TEST(documento_fiscal, the_infnfe_it_digests_outlives_the_element_it_came_from)
     EXPECT_EQ(constructed.get_digest_value(), expected);
     EXPECT_EQ(moved.get_digest_value(), expected);
 
-    moved.assinar(taxpayer(), s);
+    moved.assinar(taxpayer_pkcs12(), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(moved.get_digest_value(), expected);
     documento_fiscal const signed_copy = moved;
@@ -255,9 +234,9 @@ TEST(documento_fiscal, fails_to_sign_on_the_stack_without_crashing)
     // the reference names.
     std::string text = velk::test::read_text(velk::test::sample("messages/nfce_contingencia.xml"));
     text.replace(text.find("Id=\"NFe") + 4, 3, "XYZ");
-    documento_fiscal renamed = documento_fiscal::from_xml(parse(text), s);
+    documento_fiscal renamed = documento_fiscal::from_xml(parse_element(text), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    renamed.assinar(taxpayer(), s);
+    renamed.assinar(taxpayer_pkcs12(), s);
     EXPECT_EQ(&s.get_category(), &velk::cryptography::cryptography_result_category::instance());
     EXPECT_EQ(s.get_value(), 13);
     EXPECT_EQ(*s.top().find_argument("uri"), "#NFe41240200000000000100650010000000101000000104");
@@ -270,7 +249,7 @@ TEST(documento_fiscal, fails_to_sign_on_the_stack_without_crashing)
     auto const other_key = velk::cryptography::evp_private_key::from_byte_array(
         velk::core::byte_array(certificates.other().private_key_pem()), velk::cryptography::encoding::pem, key_stack);
     velk::cryptography::pkcs12 const mismatched =
-        velk::cryptography::pkcs12::from_certificate_and_key(taxpayer().get_certificate(), other_key, key_stack);
+        velk::cryptography::pkcs12::from_certificate_and_key(taxpayer_pkcs12().get_certificate(), other_key, key_stack);
     EXPECT_EQ(key_stack.get_value(), 7);
     s.reset();
     documento_fiscal document = documento_fiscal::from_xml(sample_nfe("nfce_contingencia.xml"), s);
@@ -280,7 +259,7 @@ TEST(documento_fiscal, fails_to_sign_on_the_stack_without_crashing)
 
     s.reset();
     documento_fiscal empty;
-    empty.assinar(taxpayer(), s);
+    empty.assinar(taxpayer_pkcs12(), s);
     EXPECT_TRUE(s.has_failed());
 }
 
@@ -367,7 +346,7 @@ TEST(documento_fiscal, names_what_it_could_not_read)
         SCOPED_TRACE(current.name);
         stack s;
         s.push_item(velk::core::converter_result_category::instance(), 1);  // left over: a fresh report drops it
-        documento_fiscal::from_xml(parse(current.text), s);
+        documento_fiscal::from_xml(parse_element(current.text), s);
         ASSERT_TRUE(s.has_failed());
         EXPECT_EQ(&s.get_category(), &result_category::instance());
         EXPECT_EQ(s.get_value(), current.code) << s.to_string();
@@ -388,7 +367,7 @@ TEST(documento_fiscal, reads_what_the_layouts_leave_open)
 {
     stack s;
     // Both CPF and CNPJ: the CPF. Any three letters before the key.
-    documento_fiscal const both = documento_fiscal::from_xml(parse(small_nfe("Id=\"NFe", "Id=\"XYZ")), s);
+    documento_fiscal const both = documento_fiscal::from_xml(parse_element(small_nfe("Id=\"NFe", "Id=\"XYZ")), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(optional_text(both.get_identificador_destinatario()), "12345678909");
     EXPECT_EQ(optional_text(both.get_email_destinatario()), "a@b.c");
@@ -397,14 +376,14 @@ TEST(documento_fiscal, reads_what_the_layouts_leave_open)
     // No dest: neither identifier nor e-mail, and no failure.
     std::string without_dest = small_nfe();
     without_dest.erase(without_dest.find("<dest>"), without_dest.find("</dest>") + 7 - without_dest.find("<dest>"));
-    documento_fiscal const anonymous = documento_fiscal::from_xml(parse(without_dest), s);
+    documento_fiscal const anonymous = documento_fiscal::from_xml(parse_element(without_dest), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_FALSE(anonymous.get_identificador_destinatario().has_value());
     EXPECT_FALSE(anonymous.get_email_destinatario().has_value());
 
     // Layout 2.00: key and version only, everything else as by default.
     documento_fiscal const old = documento_fiscal::from_xml(
-        parse("<NFe><infNFe versao=\"2.00\" Id=\"NFe" + key + "\"/></NFe>"), s);
+        parse_element("<NFe><infNFe versao=\"2.00\" Id=\"NFe" + key + "\"/></NFe>"), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(old.get_versao(), nfe::versao::versao_2_00);
     EXPECT_EQ(old.get_ambiente(), ambiente::homologacao);
