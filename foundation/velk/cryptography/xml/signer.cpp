@@ -6,6 +6,7 @@
 #include <velk/cryptography/xml/detail/canonical_writer.hpp>
 #include <velk/cryptography/xml/detail/identifiers.hpp>
 #include <velk/cryptography/xml/detail/libxml_subtree.hpp>
+#include <velk/cryptography/xml/detail/subtree_digest.hpp>
 #include <velk/cryptography/xml/detail/namespace_scope.hpp>
 #include <velk/xml/node.hpp>
 
@@ -187,19 +188,18 @@ bool digest_reference(element const& root, element const& signature, detail::can
     if (!resolve(root, work.uri, target, stack)) {
         return false;
     }
-    cryptographic_hash hash = cryptographic_hash::from_algorithm(work.algorithm, stack);
-    if (stack.has_failed()) {
-        return false;
-    }
-    if (!work.enveloped || !is_within(target, &signature)) {
-        detail::libxml_subtree const subtree = detail::libxml_subtree::build(
-            target.ancestors, *target.target, work.enveloped ? &signature : nullptr, {}, stack);
-        auto const feed = [&hash](unsigned char const* data, std::size_t size) { hash.update(data, size); };
-        if (subtree.get() == nullptr || !writer.write(subtree.get(), work.with_comments, feed, stack)) {
+    core::byte_array digest;
+    if (work.enveloped && is_within(target, &signature)) {
+        // A reference into the Signature being computed digests nothing.
+        cryptographic_hash const hash = cryptographic_hash::from_algorithm(work.algorithm, stack);
+        if (stack.has_failed()) {
             return false;
         }
+        digest = hash.finish(stack);
+    } else {
+        digest = detail::digest_subtree(target.ancestors, *target.target, work.enveloped ? &signature : nullptr,
+                                        work.with_comments, work.algorithm, writer, stack);
     }
-    core::byte_array const digest = hash.finish(stack);
     if (stack.has_failed()) {
         return false;
     }

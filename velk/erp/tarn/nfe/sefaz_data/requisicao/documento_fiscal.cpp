@@ -3,11 +3,11 @@
 #include <velk/core/binary_encoder.hpp>
 #include <velk/core/fatal.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
+#include <velk/cryptography/xml/canonical_digest.hpp>
 #include <velk/erp/tarn/nfe/detail/assinatura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/documento_fiscal_dados.hpp>
-#include <velk/xml/canonicalize.hpp>
 #include <velk/xml/node.hpp>
 
 #include <utility>
@@ -121,38 +121,13 @@ xml::element* same_child(xml::element& copy, xml::element const& original, xml::
     return nullptr;
 }
 
-// infNFe as the signer sees it: with the namespace declarations that NFe puts
-// in scope, which inclusive canonicalisation writes on the signed element.
-xml::element inf_nfe_in_scope(xml::element const& nfe, xml::element const& inf_nfe)
-{
-    xml::element copy = inf_nfe;
-    core::result::stack ignored;
-    for (xml::namespace_id const& declaration : nfe.get_namespaces()) {
-        if (!declaration.get_uri().empty()) {
-            copy.append_namespace(declaration, ignored);  // refused when infNFe declares the prefix itself
-        }
-    }
-    if (!nfe.get_namespace_uri().empty()) {
-        copy.append_namespace(xml::namespace_id(nfe.get_prefix(), nfe.get_namespace_uri()), ignored);
-    }
-    return copy;
-}
-
+// The digest the signature will hold for infNFe: its canonical form in the
+// context of NFe, hashed straight from the tree, as the signer does it.
 std::string digest_of(xml::element const& nfe, xml::element const& inf_nfe)
 {
     core::result::stack stack;
-    xml::document document;
-    document.append_node(inf_nfe_in_scope(nfe, inf_nfe), stack);
-    core::byte_array const canonical =
-        xml::canonicalize(xml::document::save(document, stack), xml::canonicalization_parameters::version_1_0{},
-                          stack);
-    cryptography::cryptographic_hash hash =
-        cryptography::cryptographic_hash::from_algorithm(cryptography::cryptographic_hash::algorithm::sha1, stack);
-    if (stack.has_failed()) {
-        return {};
-    }
-    hash.update(canonical);
-    core::byte_array const digest = hash.finish(stack);
+    core::byte_array const digest = cryptography::xml::canonical_digest(
+        nfe, inf_nfe, cryptography::cryptographic_hash::algorithm::sha1, stack);
     if (stack.has_failed()) {
         return {};
     }
