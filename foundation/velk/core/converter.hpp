@@ -125,9 +125,9 @@ std::string make_string(T const& value, result::stack& stack)
         }
     }
     if (status == converter_status::bad_parameter) {
-        result::chain<converter_result_category, 1>(stack);
+        result::chain<converter_result_category::bad_parameter>(stack);
     } else {
-        result::chain<converter_result_category, 2>(stack);
+        result::chain<converter_result_category::invalid_value>(stack);
     }
     return std::string();
 }
@@ -143,9 +143,9 @@ bool read_value(T& value, string_view text, result::stack& stack)
         return true;
     }
     if (status == converter_status::bad_parameter) {
-        result::fresh<converter_result_category, 1>(stack);
+        result::fresh<converter_result_category::bad_parameter>(stack);
     } else {
-        result::fresh<converter_result_category, 2>(stack);
+        result::fresh<converter_result_category::invalid_value>(stack);
     }
     return false;
 }

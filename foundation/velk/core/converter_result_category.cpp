@@ -5,14 +5,13 @@ inline namespace v3 {
 
 namespace {
 
-char const* const messages[] = {
-    "Parâmetro de conversão inválido",
-    "O valor não possui representação válida",
-};
+using category = converter_result_category;
+
+constexpr auto words = result::words_by_number(category::bad_parameter, category::invalid_value);
 
 }  // namespace
 
-converter_result_category::converter_result_category() : table_category("core-converter", messages) {}
+converter_result_category::converter_result_category() : table_category("core-converter", words) {}
 
 converter_result_category const& converter_result_category::instance()
 {

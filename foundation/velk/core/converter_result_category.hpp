@@ -1,20 +1,22 @@
 #pragma once
 
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
+#include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
 namespace velk::core {
 inline namespace v3 {
 
-// Failed conversions between values and text: code 1 for a wrong conversion
-// parameter, code 2 for a value that has no text form or a text with no value.
+// Failed conversions between values and text ("core-converter").
 class converter_result_category final : public result::table_category {
 public:
+    template <int N, class... Kinds>
+    using row = result::row<converter_result_category, N, Kinds...>;
+
     static converter_result_category const& instance();
 
-    void create(result::stack::item&, result::code<converter_result_category, 1>) const {}
-    void create(result::stack::item&, result::code<converter_result_category, 2>) const {}
+    // Number, name and words; neither code has details.
+    static constexpr row<1> bad_parameter{"Parâmetro de conversão inválido"};
+    static constexpr row<2> invalid_value{"O valor não possui representação válida"};
 
 private:
     converter_result_category();

@@ -79,7 +79,7 @@ cryptographic_hash cryptographic_hash::from_algorithm(algorithm value, core::res
 {
     algorithm_row const* row = find_algorithm(value);
     if (row == nullptr) {
-        core::result::fresh<cryptography_result_category, 11>(stack, get_name(value));
+        core::result::fresh<cryptography_result_category::unsupported_algorithm>(stack, get_name(value));
         return {};
     }
     cryptographic_hash hash;
@@ -87,8 +87,8 @@ cryptographic_hash cryptographic_hash::from_algorithm(algorithm value, core::res
     hash.impl_->value = value;
     hash.impl_->context.reset(EVP_MD_CTX_new());
     if (hash.impl_->context == nullptr || EVP_DigestInit_ex(hash.impl_->context.get(), row->digest(), nullptr) != 1) {
-        core::result::fresh<cryptography_result_category, 9>(stack, row->name,
-                                                              detail::take_openssl_errors("EVP_DigestInit_ex"));
+        core::result::fresh<cryptography_result_category::hash_failed>(
+            stack, row->name, detail::take_openssl_errors("EVP_DigestInit_ex"));
         return {};
     }
     return hash;
@@ -121,13 +121,13 @@ void cryptographic_hash::update(unsigned char const* data, std::size_t size)
 core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
 {
     if (impl_ == nullptr) {
-        core::result::fresh<cryptography_result_category, 9>(stack, "", "objeto de hash vazio");
+        core::result::fresh<cryptography_result_category::hash_failed>(stack, "", "objeto de hash vazio");
         return {};
     }
     std::string const name = get_name(impl_->value);
     if (impl_->broken) {
-        core::result::fresh<cryptography_result_category, 9>(stack, name,
-                                                              detail::take_openssl_errors("EVP_DigestUpdate"));
+        core::result::fresh<cryptography_result_category::hash_failed>(stack, name,
+                                                                       detail::take_openssl_errors("EVP_DigestUpdate"));
         return {};
     }
     // Finishing consumes a context: finish a copy so the running state stays.
@@ -136,8 +136,8 @@ core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
     unsigned int size = 0;
     if (copy == nullptr || EVP_MD_CTX_copy_ex(copy.get(), impl_->context.get()) != 1 ||
         EVP_DigestFinal_ex(copy.get(), digest, &size) != 1) {
-        core::result::fresh<cryptography_result_category, 9>(stack, name,
-                                                              detail::take_openssl_errors("EVP_DigestFinal_ex"));
+        core::result::fresh<cryptography_result_category::hash_failed>(
+            stack, name, detail::take_openssl_errors("EVP_DigestFinal_ex"));
         return {};
     }
     core::byte_array bytes;

@@ -66,7 +66,7 @@ evp_private_key evp_private_key::from_byte_array(core::byte_array const& bytes, 
         return {};
     }
     if (bytes.empty()) {
-        core::result::fresh<cryptography_result_category, 5>(stack, "conteúdo vazio");
+        core::result::fresh<cryptography_result_category::invalid_private_key>(stack, "conteúdo vazio");
         return {};
     }
     detail::openssl_ptr<EVP_PKEY> handle;
@@ -78,11 +78,12 @@ evp_private_key evp_private_key::from_byte_array(core::byte_array const& bytes, 
         handle.reset(PEM_read_bio_PrivateKey(source.get(), nullptr, refuse_passphrase, nullptr));
     }
     if (handle == nullptr) {
-        core::result::fresh<cryptography_result_category, 5>(stack, detail::take_openssl_errors("ilegível"));
+        core::result::fresh<cryptography_result_category::invalid_private_key>(stack,
+                                                                               detail::take_openssl_errors("ilegível"));
         return {};
     }
     if (char const* type = detail::unsupported_key_type(handle.get())) {
-        core::result::fresh<cryptography_result_category, 6>(stack, type);
+        core::result::fresh<cryptography_result_category::unsupported_key_type>(stack, type);
         return {};
     }
     evp_private_key key;
@@ -107,15 +108,15 @@ core::byte_array evp_private_key::to_byte_array(encoding format, core::result::s
         return {};
     }
     if (impl_ == nullptr) {
-        core::result::fresh<cryptography_result_category, 5>(stack, "chave vazia");
+        core::result::fresh<cryptography_result_category::invalid_private_key>(stack, "chave vazia");
         return {};
     }
     if (format == encoding::der) {
         unsigned char* der = nullptr;
         int const length = i2d_PrivateKey(impl_->handle.get(), &der);
         if (length <= 0) {
-            core::result::fresh<cryptography_result_category, 5>(stack,
-                                                                  detail::take_openssl_errors("i2d_PrivateKey"));
+            core::result::fresh<cryptography_result_category::invalid_private_key>(
+                stack, detail::take_openssl_errors("i2d_PrivateKey"));
             return {};
         }
         core::byte_array bytes;
@@ -126,7 +127,7 @@ core::byte_array evp_private_key::to_byte_array(encoding format, core::result::s
     detail::openssl_ptr<BIO> sink(BIO_new(BIO_s_secmem()));
     if (sink == nullptr ||
         PEM_write_bio_PrivateKey(sink.get(), impl_->handle.get(), nullptr, nullptr, 0, nullptr, nullptr) != 1) {
-        core::result::fresh<cryptography_result_category, 5>(
+        core::result::fresh<cryptography_result_category::invalid_private_key>(
             stack, detail::take_openssl_errors("PEM_write_bio_PrivateKey"));
         return {};
     }
@@ -138,23 +139,26 @@ core::byte_array evp_private_key::sign(cryptographic_hash::algorithm algorithm, 
 {
     EVP_MD const* digest = detail::message_digest(algorithm);
     if (digest == nullptr) {
-        core::result::fresh<cryptography_result_category, 11>(stack, cryptographic_hash::get_name(algorithm));
+        core::result::fresh<cryptography_result_category::unsupported_algorithm>(
+            stack, cryptographic_hash::get_name(algorithm));
         return {};
     }
     if (impl_ == nullptr) {
-        core::result::fresh<cryptography_result_category, 10>(stack, "chave vazia");
+        core::result::fresh<cryptography_result_category::signing_failed>(stack, "chave vazia");
         return {};
     }
     detail::openssl_ptr<EVP_MD_CTX> context(EVP_MD_CTX_new());
     std::size_t size = 0;
     if (context == nullptr || EVP_DigestSignInit(context.get(), nullptr, digest, nullptr, impl_->handle.get()) != 1 ||
         EVP_DigestSign(context.get(), nullptr, &size, data.data(), data.size()) != 1) {
-        core::result::fresh<cryptography_result_category, 10>(stack, detail::take_openssl_errors("EVP_DigestSign"));
+        core::result::fresh<cryptography_result_category::signing_failed>(
+            stack, detail::take_openssl_errors("EVP_DigestSign"));
         return {};
     }
     std::vector<unsigned char> buffer(size);
     if (EVP_DigestSign(context.get(), buffer.data(), &size, data.data(), data.size()) != 1) {
-        core::result::fresh<cryptography_result_category, 10>(stack, detail::take_openssl_errors("EVP_DigestSign"));
+        core::result::fresh<cryptography_result_category::signing_failed>(
+            stack, detail::take_openssl_errors("EVP_DigestSign"));
         return {};
     }
     // DSA and EC signatures may come out shorter than the size announced.

@@ -66,13 +66,14 @@ pkcs12 pkcs12::from_byte_array(core::byte_array const& bytes, std::string const&
                                core::result::stack& stack)
 {
     if (bytes.empty()) {
-        core::result::fresh<cryptography_result_category, 1>(stack, "conteúdo vazio");
+        core::result::fresh<cryptography_result_category::unreadable_pkcs12>(stack, "conteúdo vazio");
         return {};
     }
     unsigned char const* cursor = bytes.data();
     detail::openssl_ptr<PKCS12> bundle(d2i_PKCS12(nullptr, &cursor, static_cast<long>(bytes.size())));
     if (bundle == nullptr) {
-        core::result::fresh<cryptography_result_category, 1>(stack, detail::take_openssl_errors("d2i_PKCS12"));
+        core::result::fresh<cryptography_result_category::unreadable_pkcs12>(stack,
+                                                                             detail::take_openssl_errors("d2i_PKCS12"));
         return {};
     }
     parsed_bundle parsed = parse(bundle.get(), password);
@@ -83,19 +84,20 @@ pkcs12 pkcs12::from_byte_array(core::byte_array const& bytes, std::string const&
     if (parsed.error != 0) {
         if (is_wrong_password(parsed.error)) {
             detail::take_openssl_errors("");
-            core::result::fresh<cryptography_result_category, 2>(stack);
+            core::result::fresh<cryptography_result_category::wrong_password>(stack);
         } else {
-            core::result::fresh<cryptography_result_category, 1>(stack, detail::take_openssl_errors("PKCS12_parse"));
+            core::result::fresh<cryptography_result_category::unreadable_pkcs12>(
+                stack, detail::take_openssl_errors("PKCS12_parse"));
         }
         return {};
     }
     if (parsed.certificate == nullptr || parsed.key == nullptr) {
-        core::result::fresh<cryptography_result_category, 3>(stack,
-                                                              parsed.certificate == nullptr ? "certificado" : "chave privada");
+        core::result::fresh<cryptography_result_category::incomplete_pkcs12>(
+            stack, parsed.certificate == nullptr ? "certificado" : "chave privada");
         return {};
     }
     if (char const* type = detail::unsupported_key_type(parsed.key.get())) {
-        core::result::fresh<cryptography_result_category, 6>(stack, type);
+        core::result::fresh<cryptography_result_category::unsupported_key_type>(stack, type);
         return {};
     }
     x509_certificate certificate;
@@ -110,11 +112,12 @@ pkcs12 pkcs12::from_certificate_and_key(x509_certificate const& certificate, evp
                                         core::result::stack& stack)
 {
     if (certificate.empty() || key.empty()) {
-        core::result::fresh<cryptography_result_category, 3>(stack, certificate.empty() ? "certificado" : "chave privada");
+        core::result::fresh<cryptography_result_category::incomplete_pkcs12>(
+            stack, certificate.empty() ? "certificado" : "chave privada");
         return {};
     }
     if (!certificate.matches(key)) {
-        core::result::fresh<cryptography_result_category, 7>(stack, certificate.get_subject_common_name());
+        core::result::fresh<cryptography_result_category::key_mismatch>(stack, certificate.get_subject_common_name());
         return {};
     }
     pkcs12 bundle;

@@ -57,7 +57,7 @@ x509_certificate x509_certificate::from_byte_array(core::byte_array const& bytes
         return {};
     }
     if (bytes.empty()) {
-        core::result::fresh<cryptography_result_category, 4>(stack, "conteúdo vazio");
+        core::result::fresh<cryptography_result_category::invalid_certificate>(stack, "conteúdo vazio");
         return {};
     }
     detail::openssl_ptr<X509> handle;
@@ -67,7 +67,7 @@ x509_certificate x509_certificate::from_byte_array(core::byte_array const& bytes
         if (handle != nullptr && cursor != bytes.end()) {
             handle.reset();
             detail::take_openssl_errors("");
-            core::result::fresh<cryptography_result_category, 4>(stack, "bytes após o certificado");
+            core::result::fresh<cryptography_result_category::invalid_certificate>(stack, "bytes após o certificado");
             return {};
         }
     } else {
@@ -75,7 +75,8 @@ x509_certificate x509_certificate::from_byte_array(core::byte_array const& bytes
         handle.reset(PEM_read_bio_X509(source.get(), nullptr, nullptr, nullptr));
     }
     if (handle == nullptr) {
-        core::result::fresh<cryptography_result_category, 4>(stack, detail::take_openssl_errors("ilegível"));
+        core::result::fresh<cryptography_result_category::invalid_certificate>(stack,
+                                                                               detail::take_openssl_errors("ilegível"));
         return {};
     }
     x509_certificate certificate;
@@ -94,14 +95,15 @@ core::byte_array x509_certificate::to_byte_array(encoding format, core::result::
         return {};
     }
     if (impl_ == nullptr) {
-        core::result::fresh<cryptography_result_category, 4>(stack, "certificado vazio");
+        core::result::fresh<cryptography_result_category::invalid_certificate>(stack, "certificado vazio");
         return {};
     }
     if (format == encoding::der) {
         unsigned char* der = nullptr;
         int const length = i2d_X509(impl_->handle.get(), &der);
         if (length <= 0) {
-            core::result::fresh<cryptography_result_category, 4>(stack, detail::take_openssl_errors("i2d_X509"));
+            core::result::fresh<cryptography_result_category::invalid_certificate>(
+                stack, detail::take_openssl_errors("i2d_X509"));
             return {};
         }
         core::byte_array bytes;
@@ -111,8 +113,8 @@ core::byte_array x509_certificate::to_byte_array(encoding format, core::result::
     }
     detail::openssl_ptr<BIO> sink(BIO_new(BIO_s_mem()));
     if (sink == nullptr || PEM_write_bio_X509(sink.get(), impl_->handle.get()) != 1) {
-        core::result::fresh<cryptography_result_category, 4>(stack,
-                                                              detail::take_openssl_errors("PEM_write_bio_X509"));
+        core::result::fresh<cryptography_result_category::invalid_certificate>(
+            stack, detail::take_openssl_errors("PEM_write_bio_X509"));
         return {};
     }
     return detail::memory_contents(sink.get());

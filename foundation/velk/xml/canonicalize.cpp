@@ -39,14 +39,14 @@ core::byte_array canonicalize(core::byte_array const& xml, canonicalization_para
     canonical.reserve(xml.size());
     xmlOutputBufferPtr output = xmlOutputBufferCreateIO(&append_bytes, nullptr, &canonical, nullptr);
     if (output == nullptr) {
-        core::result::fresh<xml_result_category, 8>(stack, "xmlOutputBufferCreateIO failed");
+        core::result::fresh<xml_result_category::canonicalization_failed>(stack, "xmlOutputBufferCreateIO failed");
         return {};
     }
     int const written = xmlC14NDocSaveTo(document.get(), nullptr, XML_C14N_1_0, nullptr,
                                          parameters.with_comments ? 1 : 0, output);
     int const closed = xmlOutputBufferClose(output);
     if (written < 0 || closed < 0 || session.has_error()) {
-        core::result::fresh<xml_result_category, 8>(
+        core::result::fresh<xml_result_category::canonicalization_failed>(
             stack, session.has_error() ? session.get_description() : std::string("xmlC14NDocSaveTo failed"));
         return {};
     }

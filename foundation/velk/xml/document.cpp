@@ -67,7 +67,7 @@ core::byte_array document::save(document const& value, core::result::stack& stac
 {
     element const* root = value.get_root_element();
     if (root == nullptr) {
-        core::result::fresh<xml_result_category, 7>(stack);
+        core::result::fresh<xml_result_category::no_root>(stack);
         return {};
     }
     core::byte_array out;
@@ -87,7 +87,7 @@ bool document::append_node(element const& root, core::result::stack& stack)
 bool document::append_node(element&& root, core::result::stack& stack)
 {
     if (get_root_element() != nullptr) {
-        core::result::fresh<xml_result_category, 6>(stack);
+        core::result::fresh<xml_result_category::root_exists>(stack);
         return false;
     }
     if (!impl_) {

@@ -161,12 +161,12 @@ bool element::append_attribute(attribute const& value, core::result::stack& stac
     // A declaration written as an attribute would turn into a namespace when
     // read back; declarations go through append_namespace.
     if (!detail::is_valid_qualified_name(name) || is_namespace_declaration(name)) {
-        core::result::fresh<xml_result_category, 3>(stack, name);
+        core::result::fresh<xml_result_category::invalid_name>(stack, name);
         return false;
     }
     for (auto const& existing : impl_->attributes) {
         if (existing.get_name() == name) {
-            core::result::fresh<xml_result_category, 4>(stack, name);
+            core::result::fresh<xml_result_category::duplicate_attribute>(stack, name);
             return false;
         }
     }
@@ -182,11 +182,11 @@ bool element::append_namespace(namespace_id const& value, core::result::stack& s
     bool const valid = prefix.empty() || (detail::is_valid_local_name(prefix) && prefix != "xml" &&
                                           prefix != "xmlns" && !value.get_uri().empty());
     if (!valid) {
-        core::result::fresh<xml_result_category, 3>(stack, prefix);
+        core::result::fresh<xml_result_category::invalid_name>(stack, prefix);
         return false;
     }
     if (declares(*impl_, prefix)) {
-        core::result::fresh<xml_result_category, 5>(stack, prefix);
+        core::result::fresh<xml_result_category::duplicate_prefix>(stack, prefix);
         return false;
     }
     impl_->namespaces.push_back(value);

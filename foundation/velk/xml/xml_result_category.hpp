@@ -1,48 +1,33 @@
 #pragma once
 
-#include <velk/core/result/category.hpp>
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
-
-#include <string>
+#include <velk/core/result/detail_kinds.hpp>
+#include <velk/core/result/row.hpp>
+#include <velk/core/result/table_category.hpp>
 
 namespace velk::xml {
 inline namespace v3 {
 
-// Failures of the XML tree, named "velk-xml".
-//
-// | Code | Message                                                   | Arguments                      |
-// | 1    | "O documento XML está malformado"                         | "description", "line"          |
-// | 2    | "O documento XML declara um DTD, o que não é aceito"      | none                           |
-// | 3    | "Nome inválido para elemento ou atributo"                 | "name"                         |
-// | 4    | "Atributo já existente no elemento"                       | "name"                         |
-// | 5    | "Prefixo de namespace já declarado no elemento"           | "prefix"                       |
-// | 6    | "O documento já possui um elemento raiz"                  | none                           |
-// | 7    | "O documento não possui elemento raiz"                    | none                           |
-// | 8    | "Falha na canonicalização do XML"                         | "description"                  |
-class xml_result_category final : public core::result::category {
+// Failures of the XML tree ("velk-xml").
+class xml_result_category final : public core::result::table_category {
 public:
+    template <int N, class... Kinds>
+    using row = core::result::row<xml_result_category, N, Kinds...>;
+    using text = core::result::text;
+
     static xml_result_category const& instance();
 
-    char const* get_name() const override;
-    char const* get_message(int code) const override;
-
-    void create(core::result::stack::item& item, core::result::code<xml_result_category, 1>,
-                std::string const& description, std::string const& line) const;
-    void create(core::result::stack::item&, core::result::code<xml_result_category, 2>) const {}
-    void create(core::result::stack::item& item, core::result::code<xml_result_category, 3>,
-                std::string const& name) const;
-    void create(core::result::stack::item& item, core::result::code<xml_result_category, 4>,
-                std::string const& name) const;
-    void create(core::result::stack::item& item, core::result::code<xml_result_category, 5>,
-                std::string const& prefix) const;
-    void create(core::result::stack::item&, core::result::code<xml_result_category, 6>) const {}
-    void create(core::result::stack::item&, core::result::code<xml_result_category, 7>) const {}
-    void create(core::result::stack::item& item, core::result::code<xml_result_category, 8>,
-                std::string const& description) const;
+    // Number, name, words, and the names of the details.
+    static constexpr row<1, text, text> malformed{"O documento XML está malformado", "description", "line"};
+    static constexpr row<2> dtd_declared{"O documento XML declara um DTD, o que não é aceito"};
+    static constexpr row<3, text> invalid_name{"Nome inválido para elemento ou atributo", "name"};
+    static constexpr row<4, text> duplicate_attribute{"Atributo já existente no elemento", "name"};
+    static constexpr row<5, text> duplicate_prefix{"Prefixo de namespace já declarado no elemento", "prefix"};
+    static constexpr row<6> root_exists{"O documento já possui um elemento raiz"};
+    static constexpr row<7> no_root{"O documento não possui elemento raiz"};
+    static constexpr row<8, text> canonicalization_failed{"Falha na canonicalização do XML", "description"};
 
 private:
-    xml_result_category() = default;
+    xml_result_category();
 };
 
 }  // namespace v3

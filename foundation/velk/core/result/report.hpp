@@ -1,39 +1,50 @@
 #pragma once
 
-#include <velk/core/result/code.hpp>
 #include <velk/core/result/stack.hpp>
 
+#include <type_traits>
 #include <utility>
 
 namespace velk::core {
 inline namespace v3 {
 namespace result {
 
-// The two ways a failure is reported.
+// The two ways a failure is reported, each by the name of its code, a row of
+// the category's table (row.hpp):
 //
 // chain: the caller adds its meaning on top of what a callee already pushed,
 //        so the callee's items stay beneath.
 // fresh: the failing step is this one; whatever the stack held is replaced by
 //        a stack with this one item.
 //
-// Both fill the item through the category's create() overload of code N, so a
-// code can only be given the details its create() accepts.
-template <class Category, int N, class... Args>
-stack::item& chain(stack& target, Args&&... details)
+// Both fill the item through the row, so a code can only be given the details
+// its row accepts.
+template <auto const& Code, class... Details>
+stack::item& chain(stack& target, Details&&... details)
 {
-    Category const& category = Category::instance();
-    stack::item& item = target.push_item(category, N);
-    category.create(item, code<Category, N>{}, std::forward<Args>(details)...);
+    using row_type = std::remove_cvref_t<decltype(Code)>;
+    stack::item& item = target.push_item(row_type::category_type::instance(), row_type::value);
+    Code.create(item, std::forward<Details>(details)...);
     return item;
 }
 
-template <class Category, int N, class... Args>
-stack::item& fresh(stack& target, Args&&... details)
+template <auto const& Code, class... Details>
+stack::item& fresh(stack& target, Details&&... details)
 {
     stack local;
-    chain<Category, N>(local, std::forward<Args>(details)...);
+    chain<Code>(local, std::forward<Details>(details)...);
     target = std::move(local);
     return *target.begin();
+}
+
+// Whether the stack has failed with this code on top: how a caller that
+// forgives one failure recognises it.
+template <auto const& Code>
+bool failed_with(stack const& target)
+{
+    using row_type = std::remove_cvref_t<decltype(Code)>;
+    return target.has_failed() && target.get_value() == row_type::value &&
+           target.get_category() == row_type::category_type::instance();
 }
 
 }  // namespace result

@@ -33,7 +33,8 @@ bool is_known_encoding(encoding format, core::result::stack& stack)
     if (format == encoding::der || format == encoding::pem) {
         return true;
     }
-    core::result::fresh<cryptography_result_category, 8>(stack, std::to_string(static_cast<int>(format)));
+    core::result::fresh<cryptography_result_category::unsupported_encoding>(stack,
+                                                                            std::to_string(static_cast<int>(format)));
     return false;
 }
 

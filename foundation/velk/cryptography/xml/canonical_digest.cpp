@@ -37,7 +37,7 @@ core::byte_array canonical_digest(velk::xml::element const& root, velk::xml::ele
 {
     std::vector<velk::xml::element const*> ancestors;
     if (!path_to(root, target, ancestors)) {
-        core::result::fresh<cryptography_result_category, 13>(stack, std::string());
+        core::result::fresh<cryptography_result_category::reference_not_found>(stack, std::string());
         return {};
     }
     detail::canonical_writer writer;

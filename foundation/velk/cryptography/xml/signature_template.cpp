@@ -73,15 +73,16 @@ signature_template::signature_template(signed_info const& info, core::optional<k
 velk::xml::element signature_template::get_element_template(core::result::stack& stack) const
 {
     if (info_.get_references().empty()) {
-        core::result::fresh<cryptography_result_category, 12>(stack, "Reference");
+        core::result::fresh<cryptography_result_category::incomplete_template>(stack, "Reference");
         return velk::xml::element();
     }
     if (key_.has_value() && !key_->has_X509()) {
-        core::result::fresh<cryptography_result_category, 12>(stack, "X509Data");
+        core::result::fresh<cryptography_result_category::incomplete_template>(stack, "X509Data");
         return velk::xml::element();
     }
     if (auto const algorithm = algorithm_without_identifier(info_)) {
-        core::result::fresh<cryptography_result_category, 11>(stack, cryptographic_hash::get_name(*algorithm));
+        core::result::fresh<cryptography_result_category::unsupported_algorithm>(
+            stack, cryptographic_hash::get_name(*algorithm));
         return velk::xml::element();
     }
 

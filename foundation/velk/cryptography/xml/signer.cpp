@@ -52,7 +52,7 @@ core::optional<std::string> algorithm_of(element const& parent, char const* name
     core::optional<std::string> algorithm = method == nullptr ? core::optional<std::string>()
                                                               : attribute_value(*method, "Algorithm");
     if (!algorithm.has_value()) {
-        core::result::fresh<category, 12>(stack, name);
+        core::result::fresh<category::incomplete_template>(stack, name);
     }
     return algorithm;
 }
@@ -75,7 +75,7 @@ bool read_transforms(element const& reference, reference_work& work, core::resul
     for (element const* transform : children(*transforms, "Transform")) {
         core::optional<std::string> const algorithm = attribute_value(*transform, "Algorithm");
         if (!algorithm.has_value()) {
-            core::result::fresh<category, 12>(stack, "Transform");
+            core::result::fresh<category::incomplete_template>(stack, "Transform");
             return false;
         }
         if (*algorithm == detail::enveloped_signature_uri) {
@@ -83,7 +83,7 @@ bool read_transforms(element const& reference, reference_work& work, core::resul
         } else if (auto const with_comments = detail::canonicalization_from_uri(*algorithm)) {
             work.with_comments = *with_comments;
         } else {
-            core::result::fresh<category, 11>(stack, *algorithm);
+            core::result::fresh<category::unsupported_algorithm>(stack, *algorithm);
             return false;
         }
     }
@@ -102,12 +102,12 @@ bool read_reference(element const& reference, reference_work& work, core::result
     }
     auto const algorithm = detail::digest_from_uri(*digest_method);
     if (!algorithm.has_value()) {
-        core::result::fresh<category, 11>(stack, *digest_method);
+        core::result::fresh<category::unsupported_algorithm>(stack, *digest_method);
         return false;
     }
     work.algorithm = *algorithm;
     if (reference.find_child("DigestValue") == nullptr) {
-        core::result::fresh<category, 12>(stack, "DigestValue");
+        core::result::fresh<category::incomplete_template>(stack, "DigestValue");
         return false;
     }
     return true;
@@ -161,11 +161,11 @@ bool resolve(element const& root, std::string const& uri, located& target, core:
         collect_by_id(root, std::string_view(uri).substr(1), path, found);
     }
     if (found.empty()) {
-        core::result::fresh<category, 13>(stack, uri);
+        core::result::fresh<category::reference_not_found>(stack, uri);
         return false;
     }
     if (found.size() > 1) {
-        core::result::fresh<category, 14>(stack, uri);
+        core::result::fresh<category::ambiguous_reference>(stack, uri);
         return false;
     }
     target = std::move(found.front());
@@ -253,26 +253,26 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
         return false;
     }
     if (key.empty()) {
-        core::result::fresh<category, 5>(stack, "chave vazia");
+        core::result::fresh<category::invalid_private_key>(stack, "chave vazia");
         return false;
     }
     if (!certificate.matches(key)) {
-        core::result::fresh<category, 7>(stack, certificate.get_subject_common_name());
+        core::result::fresh<category::key_mismatch>(stack, certificate.get_subject_common_name());
         return false;
     }
     element* signature = last_child(elemento_pai, "Signature");
     if (signature == nullptr) {
-        core::result::fresh<category, 15>(stack, elemento_pai.get_name());
+        core::result::fresh<category::no_signature>(stack, elemento_pai.get_name());
         return false;
     }
     element const* const signature_path[] = {&elemento_pai, signature};
     if (resolved_namespace(signature_path) != detail::signature_namespace) {
-        core::result::fresh<category, 12>(stack, "Signature");
+        core::result::fresh<category::incomplete_template>(stack, "Signature");
         return false;
     }
     element* signed_info = signature->find_child("SignedInfo");
     if (signed_info == nullptr) {
-        core::result::fresh<category, 12>(stack, "SignedInfo");
+        core::result::fresh<category::incomplete_template>(stack, "SignedInfo");
         return false;
     }
 
@@ -285,18 +285,19 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
     auto const with_comments = detail::canonicalization_from_uri(*canonicalization);
     auto const signature_hash = detail::rsa_signature_from_uri(*signature_method);
     if (!with_comments.has_value() || !signature_hash.has_value() || key.get_type() != evp_private_key::type::rsa) {
-        core::result::fresh<category, 11>(stack, with_comments.has_value() ? *signature_method : *canonicalization);
+        core::result::fresh<category::unsupported_algorithm>(
+            stack, with_comments.has_value() ? *signature_method : *canonicalization);
         return false;
     }
 
     std::vector<element const*> const reference_elements = children(std::as_const(*signed_info), "Reference");
     if (reference_elements.empty()) {
-        core::result::fresh<category, 12>(stack, "Reference");
+        core::result::fresh<category::incomplete_template>(stack, "Reference");
         return false;
     }
     element* signature_value = signature->find_child("SignatureValue");
     if (signature_value == nullptr) {
-        core::result::fresh<category, 12>(stack, "SignatureValue");
+        core::result::fresh<category::incomplete_template>(stack, "SignatureValue");
         return false;
     }
     detail::canonical_writer writer;

@@ -43,7 +43,7 @@ struct parser_deleter {
 void report_malformed(core::result::stack& stack, libxml2_session const& session, char const* fallback)
 {
     std::string const description = session.has_error() ? session.get_description() : std::string(fallback);
-    core::result::fresh<xml_result_category, 1>(stack, description, std::to_string(session.get_line()));
+    core::result::fresh<xml_result_category::malformed>(stack, description, std::to_string(session.get_line()));
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
     parser->myDoc = nullptr;
 
     if (state.document_type_seen || (document && (document->intSubset != nullptr || document->extSubset != nullptr))) {
-        core::result::fresh<xml_result_category, 2>(stack);
+        core::result::fresh<xml_result_category::dtd_declared>(stack);
         return nullptr;
     }
     if (session.has_error() || !parser->wellFormed || !parser->nsWellFormed || !document ||

@@ -154,7 +154,7 @@ bool writer::write_element(element const& value)
     std::string const& name = value.get_qualified_name();
     std::string_view prefix;
     if (!is_valid_qualified_name(name, prefix)) {
-        core::result::fresh<xml_result_category, 3>(stack_, name);
+        core::result::fresh<xml_result_category::invalid_name>(stack_, name);
         return false;
     }
     append('<');

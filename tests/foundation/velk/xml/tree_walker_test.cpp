@@ -26,7 +26,7 @@ protected:
     {
         events.push_back("enter " + get_current_path());
         if (value.get_name() == fail_at) {
-            velk::core::result::fresh<velk::core::converter_result_category, 1>(report);
+            velk::core::result::fresh<velk::core::converter_result_category::bad_parameter>(report);
         }
         return value.get_name() != skip;
     }

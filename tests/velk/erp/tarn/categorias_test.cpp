@@ -52,7 +52,7 @@ TEST(categorias, libcurl_results_outside_the_table_are_code_24)
 TEST(categorias, libcurl_report_is_fresh_and_carries_curl_message)
 {
     result::stack stack;
-    result::chain<velk::core::converter_result_category, 1>(stack);
+    result::chain<velk::core::converter_result_category::bad_parameter>(stack);
     tarn::detail::soap::report_curl_failure(28, "Operation timed out after 100 milliseconds", stack);
     ASSERT_EQ(stack.size(), 1u);
     EXPECT_EQ(stack.get_value(), 11);
@@ -74,12 +74,12 @@ TEST(categorias, servico_details_are_stored_under_their_fixed_names)
 {
     using tarn::nfe::servico_result_category;
     result::stack stack;
-    result::chain<servico_result_category, 12>(stack, velk::erp::estado::sp);
+    result::chain<servico_result_category::estado_desconhecido>(stack, velk::erp::estado::sp);
     EXPECT_EQ(stack.top().get_arguments(), (arguments{{"value", "24"}})) << "the enumerator, not the IBGE code";
-    result::chain<servico_result_category, 14>(stack, velk::erp::fiscal::tipo_emissao::contingencia_offline_nfce,
-                                                velk::erp::fiscal::tipo_emissao::normal);
+    result::chain<servico_result_category::tipo_emissao_diferente>(
+        stack, velk::erp::fiscal::tipo_emissao::contingencia_offline_nfce, velk::erp::fiscal::tipo_emissao::normal);
     EXPECT_EQ(stack.top().get_arguments(), (arguments{{"valor_esperado", "7"}, {"valor_recebido", "0"}}));
-    result::chain<servico_result_category, 15>(stack, tarn::modelo::nfce, tarn::modelo::nfe);
+    result::chain<servico_result_category::modelo_diferente>(stack, tarn::modelo::nfce, tarn::modelo::nfe);
     EXPECT_EQ(stack.top().get_arguments(), (arguments{{"valor_esperado", "1"}, {"valor_recebido", "0"}}));
 }
 

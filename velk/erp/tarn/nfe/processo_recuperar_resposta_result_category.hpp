@@ -1,9 +1,10 @@
 #pragma once
 
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
+#include <velk/core/result/detail_kinds.hpp>
+#include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -13,17 +14,30 @@ namespace velk::erp::inline v4::tarn::nfe {
 // ("tarn-processo-recuperar-resposta-receita").
 class processo_recuperar_resposta_result_category final : public core::result::table_category {
 public:
-    template <int N>
-    using code = core::result::code<processo_recuperar_resposta_result_category, N>;
-    using item = core::result::stack::item;
+    template <int N, class... Kinds>
+    using row = core::result::row<processo_recuperar_resposta_result_category, N, Kinds...>;
+    using texto = core::result::text;
+    using contagem = core::result::number<unsigned long>;
+
+    // A list of names, stored as "[" + the names joined by ", " + "]".
+    struct lista_de_textos {
+        using parameter = std::vector<std::string>;
+        static constexpr std::size_t names = 1;
+        static constexpr bool optional = false;
+        static void store(core::result::stack::item& item, char const* const* name,
+                          std::vector<std::string> const& textos);
+    };
 
     static processo_recuperar_resposta_result_category const& instance();
 
-    void create(item&, code<1>, unsigned long numero_body_elements) const;
-    void create(item&, code<2>, std::string const& unexpected_element_name,
-                std::vector<std::string> const& valid_element_names) const;
+    // Number, name, words, and the names of the details.
+    static constexpr row<1, contagem> numero_body_invalido{
+        "A resposta da receita contém um número inválido de 'Body' elements", "numero-de-body-elements"};
+    static constexpr row<2, texto, lista_de_textos> elemento_nao_identificado{
+        "A receita respondeu com um element não identificado", "unexpected_element_name", "valid_element_names"};
     // Used for any number of children other than 1, zero included.
-    void create(item&, code<3>, unsigned long numero_child_elements) const;
+    static constexpr row<3, contagem> numero_filhos_body_invalido{"O 'Body' element contém mais de um child node",
+                                                                 "numero-de-child-elements"};
 
 private:
     processo_recuperar_resposta_result_category();

@@ -4,14 +4,11 @@ namespace velk::erp::inline v4::tarn::nfe {
 
 namespace {
 
-char const* const messages[] = {
-    "Nenhuma requisição (cancelamento, carta de correção ou EPEC) foi informada",
-};
+constexpr auto palavras = core::result::words_by_number(servico_evento_result_category::sem_requisicao);
 
 }  // namespace
 
-servico_evento_result_category::servico_evento_result_category()
-    : table_category("tarn-nfe-servico-evento", messages)
+servico_evento_result_category::servico_evento_result_category() : table_category("tarn-nfe-servico-evento", palavras)
 {
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
+#include <velk/core/result/detail_kinds.hpp>
+#include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 #include <velk/erp/estado.hpp>
 #include <velk/erp/fiscal/tipo_emissao.hpp>
@@ -11,6 +11,7 @@
 #include <velk/erp/tarn/nfe/servidor_emissao.hpp>
 #include <velk/erp/tarn/nfe/versao.hpp>
 
+#include <cstddef>
 #include <string>
 #include <unordered_map>
 
@@ -19,31 +20,68 @@ namespace velk::erp::inline v4::tarn::nfe {
 // Failures of the web service calls ("tarn-nfe-servico-geral").
 class servico_result_category final : public core::result::table_category {
 public:
-    template <int N>
-    using code = core::result::code<servico_result_category, N>;
-    using item = core::result::stack::item;
+    template <int N, class... Kinds>
+    using row = core::result::row<servico_result_category, N, Kinds...>;
+    using texto = core::result::text;
+    template <class Numero>
+    using numero = core::result::number<Numero>;
+
+    // A text left out when it is empty.
+    struct texto_se_houver {
+        using parameter = std::string;
+        static constexpr std::size_t names = 1;
+        static constexpr bool optional = false;
+        static void store(core::result::stack::item& item, char const* const* name, std::string const& texto);
+    };
+    // The texts of a SOAP fault: each pair is an argument, name and value as they are.
+    struct pares_de_texto {
+        using parameter = std::unordered_map<std::string, std::string>;
+        static constexpr std::size_t names = 0;
+        static constexpr bool optional = false;
+        static void store(core::result::stack::item& item, char const* const*,
+                          std::unordered_map<std::string, std::string> const& pares);
+    };
+    // Bytes, stored as the text they hold.
+    struct bytes {
+        using parameter = core::byte_array;
+        static constexpr std::size_t names = 1;
+        static constexpr bool optional = false;
+        static void store(core::result::stack::item& item, char const* const* name, core::byte_array const& valor);
+    };
 
     static servico_result_category const& instance();
 
-    // No web server for the request: for applications that choose their own.
-    void create(item&, code<1>, std::string const& servico, std::string const& uf, std::string const& ambiente,
-                std::string const& versao, std::string const& servidor_emissao) const;
-    // "description", only when not empty.
-    void create(item&, code<2>, std::string const& description) const;
-    void create(item&, code<3>) const {}
-    // A SOAP fault: each pair of the fault's texts as an argument.
-    void create(item&, code<4>, std::unordered_map<std::string, std::string> const& fault) const;
-    void create(item&, code<5>, std::string const& endpoint, std::string const& action) const;
-    void create(item&, code<7>, versao value) const;
-    void create(item&, code<8>, ambiente value) const;
-    void create(item&, code<9>) const {}
-    void create(item&, code<10>, servidor_emissao value) const;
-    void create(item&, code<11>) const {}
-    void create(item&, code<12>, estado value) const;
-    void create(item&, code<13>) const {}
-    void create(item&, code<14>, fiscal::tipo_emissao esperado, fiscal::tipo_emissao recebido) const;
-    void create(item&, code<15>, modelo esperado, modelo recebido) const;
-    void create(item&, code<16>, std::string const& description, core::byte_array const& soap_message) const;
+    // Number, name, words, and the names of the details. Codes 1, 6 and 10
+    // are never raised here: they are for applications that choose their own
+    // web server; code 6 cannot be created at all.
+    static constexpr row<1, texto, texto, texto, texto, texto> sem_webserver{
+        "Não existe um webserver configurado para atender a esta requisição",
+        "servico", "uf", "ambiente", "versao", "servidor_emissao"};
+    static constexpr row<2, texto_se_houver> resposta_ilegivel{"Não foi possível processar a resposta da receita",
+                                                               "description"};
+    static constexpr row<3> sem_tempo_limite{
+        "O servidor da receita não respondeu a requisição dentro do tempo especificado"};
+    static constexpr row<4, pares_de_texto> falha_soap{"Falha ao comunicar com a receita via soap"};
+    static constexpr row<5, texto, texto> servico_indisponivel{"O Web Server não disponibiliza o serviço requisitado",
+                                                               "Endpoint", "Action"};
+    static constexpr row<6, core::result::not_created> falha_comunicacao{
+        "Ocorreu um erro durante a comunicação com o servidor"};
+    static constexpr row<7, numero<versao>> versao_desconhecida{"Valor do enum de versão não reconhecido", "value"};
+    static constexpr row<8, numero<ambiente>> ambiente_desconhecido{"Valor do enum de ambiente não reconhecido",
+                                                                   "value"};
+    static constexpr row<9> requisicao_invalida{"Não foi possível construir uma requisição para enviar à receita"};
+    static constexpr row<10, numero<servidor_emissao>> servidor_emissao_desconhecido{
+        "Valor do enum de 'servidor_emissao' não reconhecido", "value"};
+    static constexpr row<11> resposta_nao_identificada{
+        "Não foi possível identificar a resposta na mensagem da receita"};
+    static constexpr row<12, numero<estado>> estado_desconhecido{"Valor do enum de estado não reconhecido", "value"};
+    static constexpr row<13> chave_acesso_invalida{"Valor da chave acesso está inválido"};
+    static constexpr row<14, numero<fiscal::tipo_emissao>, numero<fiscal::tipo_emissao>> tipo_emissao_diferente{
+        "Valor do tipo de emissão difere do esperado", "valor_esperado", "valor_recebido"};
+    static constexpr row<15, numero<modelo>, numero<modelo>> modelo_diferente{"Valor do modelo difere do esperado",
+                                                                             "valor_esperado", "valor_recebido"};
+    static constexpr row<16, texto, bytes> soap_invalido{"O servidor da receita respondeu uma mensagem SOAP inválida",
+                                                         "description", "soap_message"};
 
 private:
     servico_result_category();

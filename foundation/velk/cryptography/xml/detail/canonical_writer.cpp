@@ -36,7 +36,8 @@ bool canonical_writer::write(xmlDoc* document, bool with_comments, sink const& o
 {
     libxml_error_capture errors;
     if (buffer_ == nullptr) {
-        core::result::fresh<cryptography_result_category, 16>(stack, errors.get_message("xmlOutputBufferCreateIO"));
+        core::result::fresh<cryptography_result_category::canonicalization_failed>(
+            stack, errors.get_message("xmlOutputBufferCreateIO"));
         return false;
     }
     output_ = &output;
@@ -46,7 +47,8 @@ bool canonical_writer::write(xmlDoc* document, bool with_comments, sink const& o
         xmlC14NExecute(document, nullptr, nullptr, XML_C14N_1_0, nullptr, with_comments ? 1 : 0, buffer_);
     output_ = nullptr;
     if (written < 0 || buffer_->error != 0) {
-        core::result::fresh<cryptography_result_category, 16>(stack, errors.get_message("xmlC14NExecute"));
+        core::result::fresh<cryptography_result_category::canonicalization_failed>(
+            stack, errors.get_message("xmlC14NExecute"));
         return false;
     }
     return true;

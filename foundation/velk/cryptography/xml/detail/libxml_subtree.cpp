@@ -366,13 +366,13 @@ libxml_subtree libxml_subtree::build(std::span<velk::xml::element const* const> 
     result.state_->document = xmlNewDoc(reinterpret_cast<xmlChar const*>("1.0"));
     if (result.state_->document == nullptr) {
         result.state_.reset();
-        core::result::fresh<cryptography_result_category, 16>(stack, "xmlNewDoc");
+        core::result::fresh<cryptography_result_category::canonicalization_failed>(stack, "xmlNewDoc");
         return result;
     }
     builder nodes(*result.state_, excluded, replacements);
     if (!nodes.build_apex(ancestors, apex)) {
         result.state_.reset();
-        core::result::fresh<cryptography_result_category, 16>(
+        core::result::fresh<cryptography_result_category::canonicalization_failed>(
             stack, "nome de elemento inválido: \"" + nodes.get_invalid_name() + "\"");
     }
     return result;

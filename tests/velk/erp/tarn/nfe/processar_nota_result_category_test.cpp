@@ -42,7 +42,7 @@ TEST(processar_nota_result_category, required_values_are_fresh_reports)
     for (obrigatorio const caso : {obrigatorio{velk::erp::tarn::nfe::obrigatorio_base, 47},
                                    obrigatorio{velk::erp::tarn::nfe::obrigatorio_valor, 55}}) {
         stack report;
-        chain<velk::core::converter_result_category, 2>(report);
+        chain<velk::core::converter_result_category::invalid_value>(report);
         caso.reportar(report, "O valor de vBCST é obrigatório");
         ASSERT_EQ(report.size(), 1u);
         EXPECT_TRUE(report.get_category() == categoria);

@@ -61,7 +61,7 @@ message connection::send(message const& request, std::string const& endpoint_url
                          core::result::stack& result) const
 {
     if (endpoint_url.empty() || action_url.empty()) {
-        core::result::fresh<servico, 5>(result, endpoint_url, action_url);
+        core::result::fresh<servico::servico_indisponivel>(result, endpoint_url, action_url);
         return message();
     }
     core::byte_array const envelope = write_envelope(request, result);
@@ -95,7 +95,7 @@ message connection::send(message const& request, std::string const& endpoint_url
 
     // No default limit exists: a call without one would wait for ever.
     if (timeout_.count() <= 0) {
-        core::result::fresh<servico, 3>(result);
+        core::result::fresh<servico::sem_tempo_limite>(result);
         curl_slist_free_all(headers);
         curl_easy_cleanup(handle);
         return message();

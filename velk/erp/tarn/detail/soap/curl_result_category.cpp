@@ -9,45 +9,47 @@ namespace velk::erp::inline v4::tarn::detail::soap {
 
 namespace {
 
-char const* const messages[] = {
-    "URL com formato inválido",
-    "Função não habilitada na cURL",
-    "Não foi possível resolver o proxy",
-    "Não foi possível resolver o servidor",
-    "Não foi possível conectar ao servidor ou proxy",
-    "Não foi possível parsear a resposta do servidor",
-    "Acesso ao servidor foi recusado",
-    "O servidor retornou um código de erro",
-    "Erro ao escrever dados recebidos",
-    "Falha ao alocar memória",
-    "Tempo de conexão esgotado",
-    "Erro ao construir POST pela cURL",
-    "Falha no handshake com o servidor",
-    "Função da cURL chamada com parâmetro inválido",
-    "Opção passada não reconhecida pela cURL",
-    "Nada foi recebido do servidor",
-    "Falha ao enviar dados para o servidor",
-    "Falha ao receber dados do servidor",
-    "Problema com o certificado do cliente",
-    "Falha ao verificar certificado do servidor",
-    "Falha ao ler cadeia de certificados",
-    "Falha ao finalizar conexão SSL",
-    "Falha durante a verificação do Issuer",
-    "Erro desconhecido retornado pela cURL",
-};
+using category = curl_result_category;
+
+constexpr auto words = core::result::words_by_number(
+    category::url_malformada, category::funcao_nao_habilitada, category::proxy_nao_resolvido,
+    category::servidor_nao_resolvido, category::sem_conexao, category::resposta_ilegivel, category::acesso_negado,
+    category::erro_http, category::erro_escrita, category::sem_memoria, category::tempo_esgotado, category::erro_post,
+    category::falha_handshake, category::parametro_invalido, category::opcao_desconhecida, category::resposta_vazia,
+    category::falha_envio, category::falha_recebimento, category::certificado_cliente_invalido,
+    category::certificado_servidor_invalido, category::cadeia_certificados_ilegivel, category::falha_encerramento_ssl,
+    category::emissor_invalido, category::erro_desconhecido);
 
 // libcurl result -> code, for codes 1 to 23.
-constexpr std::array<std::pair<int, int>, 23> codes_by_result = {{
-    {3, 1},   {4, 2},   {5, 3},   {6, 4},   {7, 5},   {8, 6},   {9, 7},   {22, 8},
-    {23, 9},  {27, 10}, {28, 11}, {34, 12}, {35, 13}, {43, 14}, {48, 15}, {52, 16},
-    {55, 17}, {56, 18}, {58, 19}, {60, 20}, {77, 21}, {80, 22}, {83, 23},
+constexpr std::array<std::pair<CURLcode, int>, 23> codes_by_result = {{
+    {CURLE_URL_MALFORMAT, category::url_malformada.value},
+    {CURLE_NOT_BUILT_IN, category::funcao_nao_habilitada.value},
+    {CURLE_COULDNT_RESOLVE_PROXY, category::proxy_nao_resolvido.value},
+    {CURLE_COULDNT_RESOLVE_HOST, category::servidor_nao_resolvido.value},
+    {CURLE_COULDNT_CONNECT, category::sem_conexao.value},
+    {CURLE_WEIRD_SERVER_REPLY, category::resposta_ilegivel.value},
+    {CURLE_REMOTE_ACCESS_DENIED, category::acesso_negado.value},
+    {CURLE_HTTP_RETURNED_ERROR, category::erro_http.value},
+    {CURLE_WRITE_ERROR, category::erro_escrita.value},
+    {CURLE_OUT_OF_MEMORY, category::sem_memoria.value},
+    {CURLE_OPERATION_TIMEDOUT, category::tempo_esgotado.value},
+    {CURLE_HTTP_POST_ERROR, category::erro_post.value},
+    {CURLE_SSL_CONNECT_ERROR, category::falha_handshake.value},
+    {CURLE_BAD_FUNCTION_ARGUMENT, category::parametro_invalido.value},
+    {CURLE_UNKNOWN_OPTION, category::opcao_desconhecida.value},
+    {CURLE_GOT_NOTHING, category::resposta_vazia.value},
+    {CURLE_SEND_ERROR, category::falha_envio.value},
+    {CURLE_RECV_ERROR, category::falha_recebimento.value},
+    {CURLE_SSL_CERTPROBLEM, category::certificado_cliente_invalido.value},
+    {CURLE_PEER_FAILED_VERIFICATION, category::certificado_servidor_invalido.value},
+    {CURLE_SSL_CACERT_BADFILE, category::cadeia_certificados_ilegivel.value},
+    {CURLE_SSL_SHUTDOWN_FAILED, category::falha_encerramento_ssl.value},
+    {CURLE_SSL_ISSUER_ERROR, category::emissor_invalido.value},
 }};
-
-constexpr int unknown_code = 24;
 
 }  // namespace
 
-curl_result_category::curl_result_category() : table_category("tarn-detail-soap-curl", messages) {}
+curl_result_category::curl_result_category() : table_category("tarn-detail-soap-curl", words) {}
 
 curl_result_category const& curl_result_category::instance()
 {
@@ -62,7 +64,7 @@ int curl_result_category::code_of(int curl_result)
             return code;
         }
     }
-    return unknown_code;
+    return erro_desconhecido.value;
 }
 
 void report_curl_failure(int curl_result, char const* error_buffer, core::result::stack& stack)
@@ -70,7 +72,7 @@ void report_curl_failure(int curl_result, char const* error_buffer, core::result
     core::result::stack local;
     local.push_item(curl_result_category::instance(), curl_result_category::code_of(curl_result));
     core::result::stack::item& item = *local.begin();
-    if (item.get_value() == unknown_code) {
+    if (item.get_value() == curl_result_category::erro_desconhecido.value) {
         item.set_argument("curl_code", std::to_string(curl_result));
     }
     bool const has_buffer_text = error_buffer != nullptr && error_buffer[0] != '\0';

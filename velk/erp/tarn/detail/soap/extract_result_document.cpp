@@ -12,16 +12,16 @@ xml::document extract_result_document(message const& response, std::vector<std::
 {
     using processo = nfe::processo_recuperar_resposta_result_category;
     if (response.body.size() != 1) {
-        core::result::fresh<processo, 1>(result, response.body.size());
+        core::result::fresh<processo::numero_body_invalido>(result, response.body.size());
         return xml::document();
     }
     body_element const& result_tag = response.body.front();
     if (std::find(valid_names.begin(), valid_names.end(), result_tag.name) == valid_names.end()) {
-        core::result::fresh<processo, 2>(result, result_tag.name, valid_names);
+        core::result::fresh<processo::elemento_nao_identificado>(result, result_tag.name, valid_names);
         return xml::document();
     }
     if (result_tag.children.size() != 1) {
-        core::result::fresh<processo, 3>(result, result_tag.children.size());
+        core::result::fresh<processo::numero_filhos_body_invalido>(result, result_tag.children.size());
         return xml::document();
     }
     xml::document document;

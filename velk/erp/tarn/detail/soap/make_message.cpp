@@ -16,7 +16,7 @@ message make_message(xml::document const& document, estado estado, std::string c
     body_element dados("nfeDadosMsg", namespace_prefix);
     xml::element const* root = document.get_root_element();
     if (root == nullptr) {
-        core::result::fresh<nfe::servico_result_category, 9>(result);
+        core::result::fresh<nfe::servico_result_category::requisicao_invalida>(result);
         return message();
     }
     dados.children.push_back(*root);

@@ -17,7 +17,7 @@ void report_soap_fault(xml::element const& fault, core::result::stack& result)
     walker_soap_fault walker;
     core::result::stack ignored;
     walker.traverse_element(fault, ignored);
-    core::result::fresh<servico, 4>(result, walker.get_fault());
+    core::result::fresh<servico::falha_soap>(result, walker.get_fault());
 }
 
 }  // namespace
@@ -25,13 +25,13 @@ void report_soap_fault(xml::element const& fault, core::result::stack& result)
 message parse_response(core::byte_array const& bytes, core::result::stack& result)
 {
     auto const refuse = [&](std::string const& description) {
-        core::result::fresh<servico, 16>(result, description, bytes);
+        core::result::fresh<servico::soap_invalido>(result, description, bytes);
         return message();
     };
 
     xml::document document;
     if (!document.load(bytes, result)) {
-        core::result::chain<servico, 16>(result, "A receita não respondeu um xml válido", bytes);
+        core::result::chain<servico::soap_invalido>(result, "A receita não respondeu um xml válido", bytes);
         return message();
     }
     xml::element const* envelope = document.get_root_element();

@@ -64,7 +64,7 @@ bool escrever_nItem(xml::element& det, std::uint16_t nItem, core::result::stack&
 {
     std::string const numero = core::make_string(nItem, stack);
     if (numero.empty()) {
-        core::result::chain<sefaz_data::result_category, 3>(stack, "nItem");
+        core::result::chain<sefaz_data::result_category::valor_atributo_invalido>(stack, "nItem");
         return false;
     }
     return det.append_attribute(xml::attribute("nItem", numero), stack);

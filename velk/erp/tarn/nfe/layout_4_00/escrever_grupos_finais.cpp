@@ -21,7 +21,7 @@ bool escrever_dia(xml::element& forDia, std::uint16_t dia, core::result::stack& 
 {
     std::string const texto = core::make_string(dia, stack);
     if (texto.empty()) {
-        core::result::chain<sefaz_data::result_category, 10>(stack, "dia");
+        core::result::chain<sefaz_data::result_category::texto_elemento_invalido>(stack, "dia");
         return false;
     }
     return forDia.append_attribute(xml::attribute("dia", texto), stack);

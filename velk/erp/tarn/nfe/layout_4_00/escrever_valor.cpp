@@ -19,7 +19,7 @@ bool texto_convertido(std::string const& tag, Valor const& valor, std::string& t
 {
     texto = core::make_string(valor, stack);
     if (texto.empty()) {
-        core::result::chain<sefaz_data::result_category, 10>(stack, tag);
+        core::result::chain<sefaz_data::result_category::texto_elemento_invalido>(stack, tag);
         return false;
     }
     return true;

@@ -49,19 +49,22 @@ bool montar_exporta(fiscal::informacoes_comercio_exterior const& comercio_exteri
 bool montar_infRespTec(fiscal::informacoes_responsavel_tecnico const& responsavel, grupo::infRespTec& infRespTec,
                        core::result::stack& stack);
 
+// The refusals, by name: recusar<codigo::serie_invalida>.
+using codigo = processar_nota_result_category;
+
 // Pushes refusal `Codigo` on top of the stack and gives false.
-template <int Codigo, class... Detalhe>
+template <auto const& Codigo, class... Detalhe>
 bool recusar(core::result::stack& stack, Detalhe&&... detalhe)
 {
-    core::result::chain<processar_nota_result_category, Codigo>(stack, std::forward<Detalhe>(detalhe)...);
+    core::result::chain<Codigo>(stack, std::forward<Detalhe>(detalhe)...);
     return false;
 }
 
 // A value the layout requires and the model may leave absent. When absent it
 // is refused with code `Codigo` and the sentence that names the tag; the
-// missing bases (47) and tax values (55) of ICMS go through their own helpers,
-// which report on a fresh stack.
-template <int Codigo>
+// missing bases and tax values of ICMS go through their own helpers, which
+// report on a fresh stack.
+template <auto const& Codigo>
 bool exigir(core::optional<core::decimal> const& valor, core::decimal& destino, char const* argumento,
             core::result::stack& stack)
 {
@@ -69,12 +72,12 @@ bool exigir(core::optional<core::decimal> const& valor, core::decimal& destino, 
         destino = *valor;
         return true;
     }
-    if constexpr (Codigo == 47) {
+    if constexpr (Codigo.value == codigo::base_icms_invalida.value) {
         obrigatorio_base(stack, argumento);
-    } else if constexpr (Codigo == 55) {
+    } else if constexpr (Codigo.value == codigo::valor_icms_invalido.value) {
         obrigatorio_valor(stack, argumento);
     } else {
-        core::result::chain<processar_nota_result_category, Codigo>(stack, std::string(argumento));
+        core::result::chain<Codigo>(stack, std::string(argumento));
     }
     return false;
 }
@@ -91,7 +94,7 @@ inline void aberto(core::optional<core::decimal> const& valor, core::decimal& de
 // An enumeration of the model through the table of its codes in the layout,
 // indexed by the raw value. A value beyond the table is refused with code
 // `Codigo` and the raw value.
-template <int Codigo, class Enumeracao, class Codigo_layout, std::size_t N, class Destino>
+template <auto const& Codigo, class Enumeracao, class Codigo_layout, std::size_t N, class Destino>
 bool mapear(Enumeracao valor, Codigo_layout const (&tabela)[N], Destino& destino, core::result::stack& stack)
 {
     auto const bruto = static_cast<unsigned int>(valor);
@@ -104,7 +107,7 @@ bool mapear(Enumeracao valor, Codigo_layout const (&tabela)[N], Destino& destino
 
 // A number that the model keeps as text. A text that is no number is refused
 // with code `Codigo` and the text, above the converter's failure.
-template <int Codigo, class Inteiro>
+template <auto const& Codigo, class Inteiro>
 bool ler_numero(std::string const& texto, Inteiro& destino, core::result::stack& stack)
 {
     return core::read_value(destino, texto, stack) || recusar<Codigo>(stack, texto);

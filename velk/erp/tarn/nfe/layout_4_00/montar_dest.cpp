@@ -11,16 +11,16 @@ bool montar_documento(fiscal::destinatario const& destinatario, grupo::cpf_cnpj_
                       core::result::stack& stack)
 {
     if (auto const cpf = destinatario.get_cpf()) {
-        return ler_documento_cpf(*cpf, documento, stack) || recusar<7>(stack, *cpf);
+        return ler_documento_cpf(*cpf, documento, stack) || recusar<codigo::cpf_destinatario_invalido>(stack, *cpf);
     }
     if (auto const cnpj = destinatario.get_cnpj()) {
-        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<6>(stack, *cnpj);
+        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<codigo::cnpj_destinatario_invalido>(stack, *cnpj);
     }
     if (auto const estrangeiro = destinatario.get_indicador_estrangeiro()) {
         documento = grupo::idEstrangeiro{*estrangeiro};
         return true;
     }
-    return recusar<9>(stack);
+    return recusar<codigo::sem_documento_destinatario>(stack);
 }
 
 // The phone belongs to the address group: it is checked in any case, and
@@ -40,7 +40,7 @@ bool montar_enderDest(fiscal::destinatario const& destinatario, core::optional<g
         return true;
     }
     std::uint64_t numero = 0;
-    if (!ler_numero<60>(*fone, numero, stack)) {
+    if (!ler_numero<codigo::telefone_destinatario_invalido>(*fone, numero, stack)) {
         return false;
     }
     if (ender) {
@@ -58,7 +58,7 @@ bool montar_dest(fiscal::destinatario const& destinatario, grupo::dest& dest, co
     }
     dest.xNome = destinatario.get_razao_social();
     if (!montar_enderDest(destinatario, dest.enderDest, stack) ||
-        !mapear<24>(destinatario.get_indicador_de_ie(), indIEDest, dest.indIEDest, stack)) {
+        !mapear<codigo::indicador_ie_invalido>(destinatario.get_indicador_de_ie(), indIEDest, dest.indIEDest, stack)) {
         return false;
     }
     dest.IE = destinatario.get_ie();

@@ -33,7 +33,7 @@ bool montar_valores(fiscal::produto const& produto, grupo::prod& prod, core::res
     prod.uTrib = produto.get_unidade_tributavel();
     auto const quantidade_tributavel = produto.get_quantidade_tributavel();
     if (!quantidade_tributavel) {
-        return recusar<61>(stack, "null");
+        return recusar<codigo::quantidade_tributavel_invalida>(stack, "null");
     }
     prod.qTrib = *quantidade_tributavel;
     prod.vUnTrib = produto.get_valor_unitario_tributavel();
@@ -41,7 +41,8 @@ bool montar_valores(fiscal::produto const& produto, grupo::prod& prod, core::res
     prod.vSeg = produto.get_valor_seguro();
     prod.vDesc = produto.get_valor_desconto();
     prod.vOutro = produto.get_valor_despesas_acessorias();
-    if (!mapear<25>(produto.get_indicador_item_compoe_valor_total(), indTot, prod.indTot, stack)) {
+    if (!mapear<codigo::indicador_total_invalido>(produto.get_indicador_item_compoe_valor_total(), indTot, prod.indTot,
+                                                  stack)) {
         return false;
     }
     prod.xPed = produto.get_pedido_ordem_de_compra();

@@ -12,13 +12,13 @@ bool montar_enderEmit(fiscal::emitente const& emitente, grupo::enderEmit& ender,
     montar_logradouro(endereco, ender);
     auto const cep = endereco.get_cep();
     if (!cep) {
-        return recusar<59>(stack, "null");
+        return recusar<codigo::cep_emitente_invalido>(stack, "null");
     }
     ender.CEP = *cep;
     ender.cPais = endereco.get_ibge_pais();
     ender.xPais = endereco.get_pais();
     auto const fone = emitente.get_telefone();
-    return !fone || ler_numero<73>(*fone, ender.fone.emplace(), stack);
+    return !fone || ler_numero<codigo::telefone_emitente_invalido>(*fone, ender.fone.emplace(), stack);
 }
 
 }  // namespace
@@ -27,10 +27,10 @@ bool montar_emit(fiscal::emitente const& emitente, grupo::emit& emit, core::resu
 {
     auto const cnpj = emitente.get_cnpj();
     if (!cnpj) {
-        return recusar<5>(stack);
+        return recusar<codigo::sem_documento_emitente>(stack);
     }
     if (!ler_documento_cnpj(*cnpj, emit.documento, stack)) {
-        return recusar<4>(stack, *cnpj);
+        return recusar<codigo::cnpj_emitente_invalido>(stack, *cnpj);
     }
     emit.xNome = emitente.get_razao_social();
     emit.xFant = emitente.get_nome_fantasia();
@@ -41,7 +41,7 @@ bool montar_emit(fiscal::emitente const& emitente, grupo::emit& emit, core::resu
     emit.IEST = emitente.get_iest();
     emit.IM = emitente.get_inscricao_municipal();
     emit.CNAE = emitente.get_cnae();
-    return mapear<21>(emitente.get_regime_fiscal(), CRT, emit.CRT, stack);
+    return mapear<codigo::regime_tributario_invalido>(emitente.get_regime_fiscal(), CRT, emit.CRT, stack);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

@@ -9,12 +9,12 @@ bool montar_documento(fiscal::local_entrega const& local, grupo::cpf_cnpj_ou_est
                       core::result::stack& stack)
 {
     if (auto const cpf = local.get_cpf()) {
-        return ler_documento_cpf(*cpf, documento, stack) || recusar<10>(stack, *cpf);
+        return ler_documento_cpf(*cpf, documento, stack) || recusar<codigo::cpf_entrega_invalido>(stack, *cpf);
     }
     if (auto const cnpj = local.get_cnpj()) {
-        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<11>(stack, *cnpj);
+        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<codigo::cnpj_entrega_invalido>(stack, *cnpj);
     }
-    return recusar<12>(stack);
+    return recusar<codigo::sem_documento_entrega>(stack);
 }
 
 }  // namespace
@@ -39,7 +39,7 @@ bool montar_autXML(fiscal::autorizacao_acesso_xml const& autorizacao, grupo::cpf
     if (auto const cpf = autorizacao.get_cpf()) {
         return ler_documento_cpf(*cpf, autXML, stack);
     }
-    return recusar<66>(stack);
+    return recusar<codigo::documento_acesso_xml_invalido>(stack);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

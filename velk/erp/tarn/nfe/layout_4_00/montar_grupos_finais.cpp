@@ -17,7 +17,7 @@ bool montar_procRef(fiscal::grupo_processo_referenciado const& processo, grupo::
     procRef.nProc = processo.get_identificador();
     auto const bruto = static_cast<unsigned int>(processo.get_indicador_da_origem());
     if (bruto >= std::size(indProc) || indProc[bruto] == sem_codigo) {
-        return recusar<77>(stack, bruto);
+        return recusar<codigo::origem_processo_invalida>(stack, bruto);
     }
     procRef.indProc = indProc[bruto];
     return true;

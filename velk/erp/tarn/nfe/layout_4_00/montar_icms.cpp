@@ -34,7 +34,7 @@ constexpr char pRedBC_exigido[] = "O valor de pRedBC é obrigatório";
 // Whether a value of a group is refused when absent or written as zero.
 enum class regra { exigido, aberto };
 
-template <int Codigo, regra Regra>
+template <auto const& Codigo, regra Regra>
 bool ler(core::optional<core::decimal> const& valor, core::decimal& destino, char const* argumento,
          core::result::stack& stack)
 {
@@ -49,15 +49,15 @@ bool ler(core::optional<core::decimal> const& valor, core::decimal& destino, cha
 template <class Grupo, class Registro>
 bool montar_orig_CST(Grupo const& grupo, Registro& registro, core::result::stack& stack)
 {
-    return mapear<28>(grupo.get_origem_mercadoria(), orig, registro.orig, stack) &&
-           mapear<32>(grupo.get_cst(), CST, registro.CST, stack);
+    return mapear<codigo::origem_mercadoria_invalida>(grupo.get_origem_mercadoria(), orig, registro.orig, stack) &&
+           mapear<codigo::cst_icms_invalido>(grupo.get_cst(), CST, registro.CST, stack);
 }
 
 template <class Grupo, class Registro>
 bool montar_orig_CSOSN(Grupo const& grupo, Registro& registro, core::result::stack& stack)
 {
-    return mapear<28>(grupo.get_origem_mercadoria(), orig, registro.orig, stack) &&
-           mapear<31>(grupo.get_csosn(), CSOSN, registro.CSOSN, stack);
+    return mapear<codigo::origem_mercadoria_invalida>(grupo.get_origem_mercadoria(), orig, registro.orig, stack) &&
+           mapear<codigo::csosn_invalido>(grupo.get_csosn(), CSOSN, registro.CSOSN, stack);
 }
 
 // The three sub-groups of a fund against poverty share their accessors.
@@ -78,7 +78,8 @@ bool montar_ICMSDeson(core::optional<fiscal::grupo_icms_desonerado> const& deson
     }
     grupo::ICMSDeson& registro = ICMSDeson.emplace();
     registro.vICMSDeson = desonerado->get_valor_icms_desonerado();
-    return mapear<46>(desonerado->get_motivo(), motDesICMS, registro.motDesICMS, stack);
+    return mapear<codigo::motivo_desoneracao_invalido>(desonerado->get_motivo(), motDesICMS, registro.motDesICMS,
+                                                       stack);
 }
 
 // ICMS retained before by substitution, its fund and the effective ICMS:
@@ -102,9 +103,10 @@ void montar_retido_anteriormente(Grupo const& grupo, Registro& registro)
 template <regra Regra, class Grupo, class Registro>
 bool montar_proprio(Grupo const& grupo, Registro& registro, core::result::stack& stack)
 {
-    return ler<47, Regra>(grupo.get_valor_bc_icms(), registro.vBC, vBC_exigido, stack) &&
-           ler<51, Regra>(grupo.get_aliquota_icms(), registro.pICMS, pICMS_exigido, stack) &&
-           ler<55, Regra>(grupo.get_valor_icms(), registro.vICMS, vICMS_exigido, stack);
+    return ler<codigo::base_icms_invalida, Regra>(grupo.get_valor_bc_icms(), registro.vBC, vBC_exigido, stack) &&
+           ler<codigo::aliquota_icms_invalida, Regra>(grupo.get_aliquota_icms(), registro.pICMS, pICMS_exigido,
+                                                      stack) &&
+           ler<codigo::valor_icms_invalido, Regra>(grupo.get_valor_icms(), registro.vICMS, vICMS_exigido, stack);
 }
 
 // From pMVAST to the fund of the ICMS by substitution; modBCST is read with
@@ -115,9 +117,10 @@ bool montar_ST(Grupo const& grupo, Registro& registro, core::result::stack& stac
 {
     registro.pMVAST = grupo.get_percentual_margem_valor_adicionado_icms_st();
     registro.pRedBCST = grupo.get_percentual_reducao_bc_icms_st();
-    if (!exigir<47>(grupo.get_valor_bc_icms_st(), registro.vBCST, vBCST_exigido, stack) ||
-        !ler<51, Aliquota>(grupo.get_aliquota_icms_st(), registro.pICMSST, pICMSST_exigido, stack) ||
-        !ler<55, Valor>(grupo.get_valor_icms_st(), registro.vICMSST, vICMSST_exigido, stack)) {
+    if (!exigir<codigo::base_icms_invalida>(grupo.get_valor_bc_icms_st(), registro.vBCST, vBCST_exigido, stack) ||
+        !ler<codigo::aliquota_icms_invalida, Aliquota>(grupo.get_aliquota_icms_st(), registro.pICMSST, pICMSST_exigido,
+                                                       stack) ||
+        !ler<codigo::valor_icms_invalido, Valor>(grupo.get_valor_icms_st(), registro.vICMSST, vICMSST_exigido, stack)) {
         return false;
     }
     registro.FCPST = montar_fundo<grupo::FCPST>(grupo.get_fcp_st_retido());
@@ -132,7 +135,8 @@ bool montar_normal_opcional(core::optional<Normal> const& normal, Registro& regi
     if (!normal) {
         return true;
     }
-    if (!mapear<29>(normal->get_modalidade_bc_icms(), modBC, registro.modBC.emplace(), stack)) {
+    if (!mapear<codigo::modalidade_bc_icms_invalida>(normal->get_modalidade_bc_icms(), modBC, registro.modBC.emplace(),
+                                                     stack)) {
         return false;
     }
     registro.vBC = normal->get_valor_bc_icms();
@@ -148,7 +152,8 @@ bool montar_ST_opcional(core::optional<ST> const& st, Registro& registro, core::
     if (!st) {
         return true;
     }
-    if (!mapear<30>(st->get_modalidade_bc_icms_st(), modBCST, registro.modBCST.emplace(), stack)) {
+    if (!mapear<codigo::modalidade_bc_st_invalida>(st->get_modalidade_bc_icms_st(), modBCST, registro.modBCST.emplace(),
+                                                   stack)) {
         return false;
     }
     registro.pMVAST = st->get_percentual_margem_valor_adicionado_icms_st();
@@ -162,7 +167,8 @@ bool montar_ST_opcional(core::optional<ST> const& st, Registro& registro, core::
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_00 const& g, grupo::ICMS00& r, core::result::stack& stack)
 {
-    if (!montar_orig_CST(g, r, stack) || !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
+    if (!montar_orig_CST(g, r, stack) ||
+        !mapear<codigo::modalidade_bc_icms_invalida>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
         !montar_proprio<regra::exigido>(g, r, stack)) {
         return false;
     }
@@ -172,8 +178,9 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_00 const& g, grupo::ICMS00& r, c
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_10 const& g, grupo::ICMS10& r, core::result::stack& stack)
 {
-    if (!montar_orig_CST(g, r, stack) || !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
-        !mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) ||
+    if (!montar_orig_CST(g, r, stack) ||
+        !mapear<codigo::modalidade_bc_icms_invalida>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
+        !mapear<codigo::modalidade_bc_st_invalida>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) ||
         !montar_proprio<regra::exigido>(g, r, stack)) {
         return false;
     }
@@ -183,8 +190,10 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_10 const& g, grupo::ICMS10& r, c
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_20 const& g, grupo::ICMS20& r, core::result::stack& stack)
 {
-    if (!montar_orig_CST(g, r, stack) || !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
-        !exigir<62>(g.get_percentual_reducao_bc_icms(), r.pRedBC, pRedBC_exigido, stack) ||
+    if (!montar_orig_CST(g, r, stack) ||
+        !mapear<codigo::modalidade_bc_icms_invalida>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
+        !exigir<codigo::reducao_bc_icms_invalida>(g.get_percentual_reducao_bc_icms(), r.pRedBC, pRedBC_exigido,
+                                                  stack) ||
         !montar_proprio<regra::exigido>(g, r, stack)) {
         return false;
     }
@@ -194,7 +203,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_20 const& g, grupo::ICMS20& r, c
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_30 const& g, grupo::ICMS30& r, core::result::stack& stack)
 {
-    return montar_orig_CST(g, r, stack) && mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
+    return montar_orig_CST(g, r, stack) &&
+           mapear<codigo::modalidade_bc_st_invalida>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
            montar_ST<regra::exigido, regra::exigido>(g, r, stack) &&
            montar_ICMSDeson(g.get_grupo_icms_desonerado(), r.ICMSDeson, stack);
 }
@@ -208,7 +218,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_40 const& g, grupo::ICMS40& r, c
 // always has one.
 bool montar_grupo(fiscal::grupo_tributacao_icms_51 const& g, grupo::ICMS51& r, core::result::stack& stack)
 {
-    if (!montar_orig_CST(g, r, stack) || !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC.emplace(), stack)) {
+    if (!montar_orig_CST(g, r, stack) ||
+        !mapear<codigo::modalidade_bc_icms_invalida>(g.get_modalidade_bc_icms(), modBC, r.modBC.emplace(), stack)) {
         return false;
     }
     r.pRedBC = g.get_percentual_reducao_bc_icms();
@@ -235,9 +246,11 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_60 const& g, grupo::ICMS60& r, c
 // its other values are written as zero when absent.
 bool montar_grupo(fiscal::grupo_tributacao_icms_70 const& g, grupo::ICMS70& r, core::result::stack& stack)
 {
-    if (!montar_orig_CST(g, r, stack) || !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
-        !mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) ||
-        !exigir<62>(g.get_percentual_reducao_bc_icms(), r.pRedBC, pRedBC_exigido, stack)) {
+    if (!montar_orig_CST(g, r, stack) ||
+        !mapear<codigo::modalidade_bc_icms_invalida>(g.get_modalidade_bc_icms(), modBC, r.modBC, stack) ||
+        !mapear<codigo::modalidade_bc_st_invalida>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) ||
+        !exigir<codigo::reducao_bc_icms_invalida>(g.get_percentual_reducao_bc_icms(), r.pRedBC, pRedBC_exigido,
+                                                  stack)) {
         return false;
     }
     montar_proprio<regra::aberto>(g, r, stack);
@@ -262,8 +275,10 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_90 const& g, grupo::ICMS90& r, c
 bool montar_grupo(fiscal::grupo_tributacao_icms_101 const& g, grupo::ICMSSN101& r, core::result::stack& stack)
 {
     return montar_orig_CSOSN(g, r, stack) &&
-           exigir<56>(g.get_aliquota_de_credito_sn(), r.pCredSN, pCredSN_exigido, stack) &&
-           exigir<57>(g.get_valor_de_credito_sn(), r.vCredICMSSN, vCredICMSSN_exigido, stack);
+           exigir<codigo::aliquota_credito_icms_invalida>(g.get_aliquota_de_credito_sn(), r.pCredSN, pCredSN_exigido,
+                                                          stack) &&
+           exigir<codigo::valor_credito_icms_invalido>(g.get_valor_de_credito_sn(), r.vCredICMSSN, vCredICMSSN_exigido,
+                                                       stack);
 }
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_102 const& g, grupo::ICMSSN102& r, core::result::stack& stack)
@@ -274,15 +289,19 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_102 const& g, grupo::ICMSSN102& 
 // ICMSSN201 names pCredSN also when vCredICMSSN is the value missing.
 bool montar_grupo(fiscal::grupo_tributacao_icms_201 const& g, grupo::ICMSSN201& r, core::result::stack& stack)
 {
-    return montar_orig_CSOSN(g, r, stack) && mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
+    return montar_orig_CSOSN(g, r, stack) &&
+           mapear<codigo::modalidade_bc_st_invalida>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
            montar_ST<regra::exigido, regra::aberto>(g, r, stack) &&
-           exigir<56>(g.get_aliquota_de_credito_sn(), r.pCredSN, pCredSN_exigido, stack) &&
-           exigir<57>(g.get_valor_de_credito_sn(), r.vCredICMSSN, pCredSN_exigido, stack);
+           exigir<codigo::aliquota_credito_icms_invalida>(g.get_aliquota_de_credito_sn(), r.pCredSN, pCredSN_exigido,
+                                                          stack) &&
+           exigir<codigo::valor_credito_icms_invalido>(g.get_valor_de_credito_sn(), r.vCredICMSSN, pCredSN_exigido,
+                                                       stack);
 }
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_202 const& g, grupo::ICMSSN202& r, core::result::stack& stack)
 {
-    return montar_orig_CSOSN(g, r, stack) && mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
+    return montar_orig_CSOSN(g, r, stack) &&
+           mapear<codigo::modalidade_bc_st_invalida>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
            montar_ST<regra::exigido, regra::exigido>(g, r, stack);
 }
 
@@ -311,8 +330,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_900 const& g, grupo::ICMSSN900& 
 // ICMS by substitution passed on to another state.
 bool montar_grupo(fiscal::grupo_repasse_icms_st const& g, grupo::ICMSST& r, core::result::stack& stack)
 {
-    if (!mapear<28>(g.get_origem_mercadoria(), orig, r.orig, stack) ||
-        !mapear<32>(g.get_tributacao_icms(), CST, r.CST, stack)) {
+    if (!mapear<codigo::origem_mercadoria_invalida>(g.get_origem_mercadoria(), orig, r.orig, stack) ||
+        !mapear<codigo::cst_icms_invalido>(g.get_tributacao_icms(), CST, r.CST, stack)) {
         return false;
     }
     r.vBCSTRet = g.get_valor_bc_icms_st_retido();

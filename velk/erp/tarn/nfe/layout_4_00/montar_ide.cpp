@@ -25,7 +25,7 @@ bool montar_cUF(fiscal::nota_fiscal const& nota, std::uint16_t& cUF, core::resul
     std::string const uf = nota.get_emitente().get_endereco().get_uf();
     estado valor{};
     if (!core::read_value(valor, uf, stack)) {
-        return recusar<70>(stack, uf);
+        return recusar<codigo::codigo_ibge_invalido>(stack, uf);
     }
     cUF = static_cast<std::uint16_t>(get_codigo_ibge(valor));
     return true;
@@ -35,7 +35,7 @@ bool montar_cUF(fiscal::nota_fiscal const& nota, std::uint16_t& cUF, core::resul
 bool montar_cDV(std::string const& chave, std::uint16_t& cDV, core::result::stack& stack)
 {
     if (chave.size() != 44) {
-        return recusar<58>(stack, chave);
+        return recusar<codigo::chave_acesso_invalida>(stack, chave);
     }
     cDV = static_cast<std::uint16_t>(chave.back() - '0');
     return true;
@@ -47,10 +47,10 @@ bool montar_refNF(fiscal::nf_referenciada const& referencia, grupo::refNF& ref, 
     ref.AAMM = referencia.get_ano_mes_emissao();
     std::string const cnpj = referencia.get_cnpj();
     if (!detail::ler_cnpj(cnpj, ref.CNPJ, stack)) {
-        return recusar<67>(stack, cnpj);
+        return recusar<codigo::cnpj_nf_referenciada_invalido>(stack, cnpj);
     }
     ref.mod = referencia.get_modelo();
-    if (!ler_numero<68>(referencia.get_serie(), ref.serie, stack)) {
+    if (!ler_numero<codigo::serie_nf_referenciada_invalida>(referencia.get_serie(), ref.serie, stack)) {
         return false;
     }
     ref.nNF = referencia.get_numero();
@@ -62,12 +62,13 @@ bool montar_produtor(fiscal::nfp_referenciada const& referencia, grupo::cnpj_ou_
                      core::result::stack& stack)
 {
     if (auto const cnpj = referencia.get_cnpj()) {
-        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<1>(stack, *cnpj);
+        return ler_documento_cnpj(*cnpj, documento, stack) ||
+               recusar<codigo::cnpj_produtor_rural_invalido>(stack, *cnpj);
     }
     if (auto const cpf = referencia.get_cpf()) {
-        return ler_documento_cpf(*cpf, documento, stack) || recusar<2>(stack, *cpf);
+        return ler_documento_cpf(*cpf, documento, stack) || recusar<codigo::cpf_produtor_rural_invalido>(stack, *cpf);
     }
-    return recusar<3>(stack);
+    return recusar<codigo::sem_documento_produtor_rural>(stack);
 }
 
 bool montar_refNFP(fiscal::nfp_referenciada const& referencia, grupo::refNFP& ref, core::result::stack& stack)
@@ -78,18 +79,18 @@ bool montar_refNFP(fiscal::nfp_referenciada const& referencia, grupo::refNFP& re
         return false;
     }
     ref.IE = referencia.get_ie();
-    if (!mapear<19>(referencia.get_modelo(), mod_refNFP, ref.mod, stack)) {
+    if (!mapear<codigo::modelo_nf_produtor_invalido>(referencia.get_modelo(), mod_refNFP, ref.mod, stack)) {
         return false;
     }
     ref.nNF = referencia.get_numero();
-    return ler_numero<69>(referencia.get_serie(), ref.serie, stack);
+    return ler_numero<codigo::serie_nf_produtor_invalida>(referencia.get_serie(), ref.serie, stack);
 }
 
 bool montar_refECF(fiscal::cupom_referenciado const& cupom, grupo::refECF& ref, core::result::stack& stack)
 {
     ref.nECF = cupom.get_ecf();
     ref.nCOO = cupom.get_coo();
-    return mapear<20>(cupom.get_modelo(), mod_refECF, ref.mod, stack);
+    return mapear<codigo::modelo_cupom_invalido>(cupom.get_modelo(), mod_refECF, ref.mod, stack);
 }
 
 // One entry per referenced document, all those of a kind before the next kind.
@@ -127,27 +128,31 @@ bool montar_ide(fiscal::nota_fiscal const& nota, grupo::ide& ide, core::result::
     ide.cNF = nota.get_codigo_nf();
     ide.natOp = nota.get_natureza_operacao();
     std::string const modelo = nota.get_modelo_emissao();
-    if (!ler_numero<71>(modelo, ide.mod, stack) || !ler_numero<72>(nota.get_serie(), ide.serie, stack)) {
+    if (!ler_numero<codigo::modelo_invalido>(modelo, ide.mod, stack) ||
+        !ler_numero<codigo::serie_invalida>(nota.get_serie(), ide.serie, stack)) {
         return false;
     }
     ide.nNF = nota.get_numero();
     ide.dhEmi = nota.get_data_emissao();
     ide.dhSaiEnt = nota.get_data_saida_entrada();
-    if (!mapear<22>(nota.get_tipo_operacao(), tpNF, ide.tpNF, stack) ||
-        !mapear<23>(nota.get_indicador_operacao(), idDest, ide.idDest, stack)) {
+    if (!mapear<codigo::tipo_operacao_invalido>(nota.get_tipo_operacao(), tpNF, ide.tpNF, stack) ||
+        !mapear<codigo::destino_operacao_invalido>(nota.get_indicador_operacao(), idDest, ide.idDest, stack)) {
         return false;
     }
     ide.cMunFG = nota.get_ibge_municipio_emissao();
-    if (!mapear<45>(nota.get_tipo_emissao(), tpEmis, ide.tpEmis, stack) ||
+    if (!mapear<codigo::tipo_emissao_invalido>(nota.get_tipo_emissao(), tpEmis, ide.tpEmis, stack) ||
         !montar_cDV(nota.get_chave_44_digitos(), ide.cDV, stack) ||
-        !mapear<16>(nota.get_indicador_ambiente(), tpAmb, ide.tpAmb, stack) ||
-        !mapear<64>(nota.get_indicador_finalidade_emissao(), finNFe, ide.finNFe, stack) ||
-        !mapear<17>(nota.get_operacao_consumidor_final(), indFinal, ide.indFinal, stack) ||
-        !mapear<18>(nota.get_indicador_presenca(), indPres, ide.indPres, stack)) {
+        !mapear<codigo::ambiente_invalido>(nota.get_indicador_ambiente(), tpAmb, ide.tpAmb, stack) ||
+        !mapear<codigo::finalidade_emissao_invalida>(nota.get_indicador_finalidade_emissao(), finNFe, ide.finNFe,
+                                                     stack) ||
+        !mapear<codigo::consumidor_final_invalido>(nota.get_operacao_consumidor_final(), indFinal, ide.indFinal,
+                                                   stack) ||
+        !mapear<codigo::presenca_invalida>(nota.get_indicador_presenca(), indPres, ide.indPres, stack)) {
         return false;
     }
     if (auto const intermediador = nota.get_indicador_intermediador();
-        intermediador && !mapear<78>(*intermediador, indIntermed, ide.indIntermed.emplace(), stack)) {
+        intermediador &&
+        !mapear<codigo::intermediador_invalido>(*intermediador, indIntermed, ide.indIntermed.emplace(), stack)) {
         return false;
     }
     ide.procEmi = 0;

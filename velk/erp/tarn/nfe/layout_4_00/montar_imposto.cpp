@@ -23,17 +23,19 @@ bool montar_calculo(fiscal::produto const& produto, fiscal::tributacao_ipi const
 {
     if (auto const aliquota = tributacao.get_tributacao_ipi_calculo_aliquota()) {
         grupo::IPI_aliquota calculo;
-        if (!exigir<54>(aliquota->get_aliquota_ipi(), calculo.pIPI, "O valor pIPI é obrigatório para o cálculo do IPI",
-                        stack) ||
-            !exigir<50>(aliquota->get_valor_bc_ipi(), calculo.vBC, "O valor vBC é obrigatório para o cálculo do IPI",
-                        stack)) {
+        if (!exigir<codigo::aliquota_ipi_invalida>(aliquota->get_aliquota_ipi(), calculo.pIPI,
+                                                   "O valor pIPI é obrigatório para o cálculo do IPI", stack) ||
+            !exigir<codigo::base_ipi_invalida>(aliquota->get_valor_bc_ipi(), calculo.vBC,
+                                               "O valor vBC é obrigatório para o cálculo do IPI", stack)) {
             return false;
         }
         ipi.calculo = calculo;
     } else if (auto const valor = tributacao.get_tributacao_ipi_calculo_valor()) {
         grupo::IPI_unidade calculo;
-        if (!exigir<63>(valor->get_valor_unidade_tributavel(), calculo.vUnid, "null", stack) ||
-            !exigir<61>(produto.get_quantidade_tributavel(), calculo.qUnid, "null", stack)) {
+        if (!exigir<codigo::unidade_tributavel_invalida>(valor->get_valor_unidade_tributavel(), calculo.vUnid, "null",
+                                                         stack) ||
+            !exigir<codigo::quantidade_tributavel_invalida>(produto.get_quantidade_tributavel(), calculo.qUnid, "null",
+                                                            stack)) {
             return false;
         }
         ipi.calculo = calculo;
@@ -130,14 +132,14 @@ bool montar_IPI(fiscal::produto const& produto, fiscal::tributacao_ipi const& tr
                 core::result::stack& stack)
 {
     if (auto const cnpj = tributacao.get_cnpj_produtor();
-        cnpj && !ler_numero<75>(*cnpj, ipi.CNPJProd.emplace(), stack)) {
+        cnpj && !ler_numero<codigo::cnpj_produtor_invalido>(*cnpj, ipi.CNPJProd.emplace(), stack)) {
         return false;
     }
     ipi.cSelo = tributacao.get_codigo_selo_controle_ipi();
     ipi.qSelo = tributacao.get_quantidade_selo_controle();
     std::uint16_t CST = 0;
-    if (!ler_numero<76>(tributacao.get_classe_enquadramento_ipi(), ipi.cEnq, stack) ||
-        !mapear<43>(tributacao.get_cst_ipi(), CST_IPI, CST, stack)) {
+    if (!ler_numero<codigo::enquadramento_ipi_invalido>(tributacao.get_classe_enquadramento_ipi(), ipi.cEnq, stack) ||
+        !mapear<codigo::cst_ipi_invalido>(tributacao.get_cst_ipi(), CST_IPI, CST, stack)) {
         return false;
     }
     if (!IPI_tributado[static_cast<unsigned int>(tributacao.get_cst_ipi())]) {

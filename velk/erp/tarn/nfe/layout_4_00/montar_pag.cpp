@@ -18,12 +18,12 @@ constexpr std::uint8_t tBand[] = {1,  2,  3,  4,  5,  6,  7,  8,  9,  10, 11, 12
 bool montar_card(fiscal::transacao_tef const& transacao, grupo::card& card, core::result::stack& stack)
 {
     if (auto const tipo = transacao.get_tipo_integracao();
-        tipo && !mapear<41>(*tipo, tpIntegra, card.tpIntegra, stack)) {
+        tipo && !mapear<codigo::tipo_integracao_invalido>(*tipo, tpIntegra, card.tpIntegra, stack)) {
         return false;
     }
     card.CNPJ = transacao.get_cnpj();
     if (auto const bandeira = transacao.get_bandeira();
-        bandeira && !mapear<42>(*bandeira, tBand, card.tBand.emplace(), stack)) {
+        bandeira && !mapear<codigo::bandeira_cartao_invalida>(*bandeira, tBand, card.tBand.emplace(), stack)) {
         return false;
     }
     card.cAut = transacao.get_numero_autorizacao();
@@ -33,10 +33,10 @@ bool montar_card(fiscal::transacao_tef const& transacao, grupo::card& card, core
 bool montar_detPag(fiscal::detalhes_pagamento const& detalhes, grupo::detPag& detPag, core::result::stack& stack)
 {
     if (auto const indicador = detalhes.get_indicador_forma_pagamento();
-        indicador && !mapear<39>(*indicador, indPag, detPag.indPag.emplace(), stack)) {
+        indicador && !mapear<codigo::forma_pagamento_invalida>(*indicador, indPag, detPag.indPag.emplace(), stack)) {
         return false;
     }
-    if (!mapear<40>(detalhes.get_meio_pagamento(), tPag, detPag.tPag, stack)) {
+    if (!mapear<codigo::tipo_pagamento_invalido>(detalhes.get_meio_pagamento(), tPag, detPag.tPag, stack)) {
         return false;
     }
     detPag.xPag = detalhes.get_descricao_meio_pagamento();

@@ -41,9 +41,10 @@ constexpr recusas_do_tributo recusas_cofins{
 bool montar_grupo(fiscal::grupo_tributacao_pis_aliquota const& g, grupo::PIS& pis, core::result::stack& stack)
 {
     grupo::PISAliq r;
-    if (!mapear<33>(g.get_cst_pis(), CST_aliquota, r.CST, stack) ||
-        !exigir<48>(g.get_valor_bc_pis(), r.vBC, recusas_pis.base_aliquota, stack) ||
-        !exigir<52>(g.get_percentual_aliquota_pis(), r.pPIS, recusas_pis.aliquota_aliquota, stack)) {
+    if (!mapear<codigo::cst_pis_invalido>(g.get_cst_pis(), CST_aliquota, r.CST, stack) ||
+        !exigir<codigo::base_pis_invalida>(g.get_valor_bc_pis(), r.vBC, recusas_pis.base_aliquota, stack) ||
+        !exigir<codigo::aliquota_pis_invalida>(g.get_percentual_aliquota_pis(), r.pPIS, recusas_pis.aliquota_aliquota,
+                                               stack)) {
         return false;
     }
     r.vPIS = g.get_valor_pis();
@@ -54,7 +55,7 @@ bool montar_grupo(fiscal::grupo_tributacao_pis_aliquota const& g, grupo::PIS& pi
 bool montar_grupo(fiscal::grupo_tributacao_pis_nt const& g, grupo::PIS& pis, core::result::stack& stack)
 {
     grupo::PISNT r;
-    if (!mapear<34>(g.get_cst_pis(), CST_nao_tributado, r.CST, stack)) {
+    if (!mapear<codigo::cst_pis_nao_tributado_invalido>(g.get_cst_pis(), CST_nao_tributado, r.CST, stack)) {
         return false;
     }
     pis = r;
@@ -66,9 +67,10 @@ bool montar_grupo(fiscal::grupo_tributacao_pis_outros const& g, grupo::PIS& pis,
 {
     grupo::PISOutr r;
     grupo::PIS_aliquota calculo;
-    if (!mapear<35>(g.get_cst_pis(), CST_outras_operacoes, r.CST, stack) ||
-        !exigir<48>(g.get_valor_bc_pis(), calculo.vBC, recusas_pis.base_outras, stack) ||
-        !exigir<54>(g.get_percentual_aliquota_pis(), calculo.pPIS, recusas_pis.aliquota_outras, stack)) {
+    if (!mapear<codigo::cst_pis_outras_invalido>(g.get_cst_pis(), CST_outras_operacoes, r.CST, stack) ||
+        !exigir<codigo::base_pis_invalida>(g.get_valor_bc_pis(), calculo.vBC, recusas_pis.base_outras, stack) ||
+        !exigir<codigo::aliquota_ipi_invalida>(g.get_percentual_aliquota_pis(), calculo.pPIS,
+                                               recusas_pis.aliquota_outras, stack)) {
         return false;
     }
     r.calculo = calculo;
@@ -80,9 +82,10 @@ bool montar_grupo(fiscal::grupo_tributacao_pis_outros const& g, grupo::PIS& pis,
 bool montar_grupo(fiscal::grupo_tributacao_cofins_aliquota const& g, grupo::COFINS& cofins, core::result::stack& stack)
 {
     grupo::COFINSAliq r;
-    if (!mapear<36>(g.get_cst_cofins(), CST_aliquota, r.CST, stack) ||
-        !exigir<49>(g.get_valor_bc_cofins(), r.vBC, recusas_cofins.base_aliquota, stack) ||
-        !exigir<53>(g.get_percentual_aliquota_cofins(), r.pCOFINS, recusas_cofins.aliquota_aliquota, stack)) {
+    if (!mapear<codigo::cst_cofins_invalido>(g.get_cst_cofins(), CST_aliquota, r.CST, stack) ||
+        !exigir<codigo::base_cofins_invalida>(g.get_valor_bc_cofins(), r.vBC, recusas_cofins.base_aliquota, stack) ||
+        !exigir<codigo::aliquota_cofins_invalida>(g.get_percentual_aliquota_cofins(), r.pCOFINS,
+                                                  recusas_cofins.aliquota_aliquota, stack)) {
         return false;
     }
     r.vCOFINS = g.get_valor_cofins();
@@ -93,7 +96,7 @@ bool montar_grupo(fiscal::grupo_tributacao_cofins_aliquota const& g, grupo::COFI
 bool montar_grupo(fiscal::grupo_tributacao_cofins_nt const& g, grupo::COFINS& cofins, core::result::stack& stack)
 {
     grupo::COFINSNT r;
-    if (!mapear<37>(g.get_cst_cofins(), CST_nao_tributado, r.CST, stack)) {
+    if (!mapear<codigo::cst_cofins_nao_tributado_invalido>(g.get_cst_cofins(), CST_nao_tributado, r.CST, stack)) {
         return false;
     }
     cofins = r;
@@ -104,9 +107,11 @@ bool montar_grupo(fiscal::grupo_tributacao_cofins_outros const& g, grupo::COFINS
 {
     grupo::COFINSOutr r;
     grupo::COFINS_aliquota calculo;
-    if (!mapear<38>(g.get_cst_cofins(), CST_outras_operacoes, r.CST, stack) ||
-        !exigir<49>(g.get_valor_bc_cofins(), calculo.vBC, recusas_cofins.base_outras, stack) ||
-        !exigir<53>(g.get_percentual_aliquota_cofins(), calculo.pCOFINS, recusas_cofins.aliquota_outras, stack)) {
+    if (!mapear<codigo::cst_cofins_outras_invalido>(g.get_cst_cofins(), CST_outras_operacoes, r.CST, stack) ||
+        !exigir<codigo::base_cofins_invalida>(g.get_valor_bc_cofins(), calculo.vBC, recusas_cofins.base_outras,
+                                              stack) ||
+        !exigir<codigo::aliquota_cofins_invalida>(g.get_percentual_aliquota_cofins(), calculo.pCOFINS,
+                                                  recusas_cofins.aliquota_outras, stack)) {
         return false;
     }
     r.calculo = calculo;

@@ -41,7 +41,7 @@ grupo::med montar_med(fiscal::medicamento const& medicamento)
 
 bool montar_arma(fiscal::arma const& arma, grupo::arma& registro, core::result::stack& stack)
 {
-    if (!mapear<81>(arma.get_tipo(), tpArma, registro.tpArma, stack)) {
+    if (!mapear<codigo::tipo_arma_invalido>(arma.get_tipo(), tpArma, registro.tpArma, stack)) {
         return false;
     }
     registro.nSerie = arma.get_numero_serie_arma();
@@ -84,15 +84,16 @@ bool montar_DI(fiscal::declaracao_importacao const& declaracao, grupo::DI& di, c
     di.xLocDesemb = declaracao.get_local_desembaraco();
     di.UFDesemb = declaracao.get_uf_desembaraco();
     di.dDesemb = declaracao.get_data_desembaraco();
-    if (!mapear<26>(declaracao.get_via_transporte(), tpViaTransp, di.tpViaTransp, stack)) {
+    if (!mapear<codigo::via_transporte_invalida>(declaracao.get_via_transporte(), tpViaTransp, di.tpViaTransp, stack)) {
         return false;
     }
     di.vAFRMM = declaracao.get_valor_afrmm();
-    if (!mapear<27>(declaracao.get_forma_intermedio_importacao(), tpIntermedio, di.tpIntermedio, stack)) {
+    if (!mapear<codigo::intermediacao_invalida>(declaracao.get_forma_intermedio_importacao(), tpIntermedio,
+                                                di.tpIntermedio, stack)) {
         return false;
     }
     if (auto const cnpj = declaracao.get_cnpj_importador();
-        cnpj && !ler_numero<74>(*cnpj, di.CNPJ.emplace(), stack)) {
+        cnpj && !ler_numero<codigo::cnpj_importador_invalido>(*cnpj, di.CNPJ.emplace(), stack)) {
         return false;
     }
     di.UFTerceiro = declaracao.get_uf_importador();

@@ -69,7 +69,7 @@ grupo::vol montar_vol(fiscal::volume const& volume)
 bool montar_transp(fiscal::informacoes_transporte const& transporte, grupo::transp& transp, core::result::stack& stack)
 {
     // The refusal is code 45, whose words speak of the type of issue.
-    if (!mapear<45>(transporte.get_modalidade_frete(), modFrete, transp.modFrete, stack)) {
+    if (!mapear<codigo::tipo_emissao_invalido>(transporte.get_modalidade_frete(), modFrete, transp.modFrete, stack)) {
         return false;
     }
     if (auto const transportador = transporte.get_transportador()) {

@@ -24,8 +24,7 @@ std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::doc
     }
     // A missing element is what a document without a QR code may report on
     // its way here: that one is forgiven, any other failure stops.
-    if (stack.has_failed() && stack.get_value() == 1 &&
-        stack.get_category() == sefaz_data::result_category::instance()) {
+    if (core::result::failed_with<sefaz_data::result_category::elemento_ausente>(stack)) {
         stack.reset();
     }
     if (stack.has_failed()) {
@@ -42,7 +41,7 @@ std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::doc
         qrcode = detail::gerar_qrcode_versao_200(fiscal, digest, detail::sem_zeros_a_esquerda(id_token), csc, stack);
         break;
     default:
-        core::result::fresh<processo_gerar_qrcode_result_category, 4>(
+        core::result::fresh<processo_gerar_qrcode_result_category::versao_nao_suportada>(
             stack, static_cast<int>(informacoes.get_versao_qrcode()));
         return {};
     }

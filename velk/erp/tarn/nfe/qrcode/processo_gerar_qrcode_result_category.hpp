@@ -1,45 +1,61 @@
 #pragma once
 
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
+#include <velk/core/result/detail_kinds.hpp>
+#include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
+#include <cstddef>
 #include <string>
 
 namespace velk::erp::inline v4::tarn::nfe {
 
 // Failures of the consumer QR code of an NFC-e and of the choice of its
 // consultation page ("tarn-nfe-processo-gerar-qrcode").
-//
-// Code 9 (a PR document of layout 2.00, for which the state publishes no
-// page) has no words: it can be created and read by number, but asking for
-// its message ends the process, as for a number that is no code.
 class processo_gerar_qrcode_result_category final : public core::result::table_category {
 public:
-    template <int N>
-    using code = core::result::code<processo_gerar_qrcode_result_category, N>;
-    using item = core::result::stack::item;
+    template <int N, class... Kinds>
+    using row = core::result::row<processo_gerar_qrcode_result_category, N, Kinds...>;
+    using texto = core::result::text;
+
+    // A text and its length: two names.
+    struct texto_e_tamanho {
+        using parameter = std::string;
+        static constexpr std::size_t names = 2;
+        static constexpr bool optional = false;
+        static void store(core::result::stack::item& item, char const* const* name, std::string const& texto);
+    };
+    // A text and a fixed remark: the text's name, then the remark's name and words.
+    struct texto_e_observacao {
+        using parameter = std::string;
+        static constexpr std::size_t names = 3;
+        static constexpr bool optional = false;
+        static void store(core::result::stack::item& item, char const* const* name, std::string const& texto);
+    };
 
     static processo_gerar_qrcode_result_category const& instance();
 
-    // The document is not fit for a QR code: for callers, never raised here.
-    void create(item&, code<1>) const {}
-    // "value": the CSC refused, which is only ever the empty one.
-    void create(item&, code<2>, std::string const& csc) const;
-    // "value": the token of the CSC whose length the format refuses.
-    void create(item&, code<3>, std::string const& id_token) const;
-    // "value": the number of a QR code version that does not exist.
-    void create(item&, code<4>, int versao_qrcode) const;
-    // "codigo_uf": the state without a consultation page, as its text.
-    void create(item&, code<5>, std::string const& codigo_uf) const;
-    // "hash-value" and "hash-size": the hexadecimal hash and its length.
-    void create(item&, code<6>, std::string const& hash) const;
-    // "digest-value": the hexadecimal digest; "description": why it is refused.
-    void create(item&, code<7>, std::string const& digest) const;
-    // "url-version" ("1.00", "2.00") and "url-field": the value without text.
-    void create(item&, code<8>, std::string const& url_version, std::string const& url_field) const;
-    // "versao-nfe": the layout version that has no page.
-    void create(item&, code<9>, std::string const& versao_nfe) const;
+    // Number, name, words, and the names of the details.
+    //
+    // Code 1 is for callers: the document is not fit for a QR code; never
+    // raised here. Code 2's "value" is the CSC refused, which is only ever the
+    // empty one. Code 6 carries the hexadecimal hash and its length. Code 9
+    // (a PR document of layout 2.00, for which the state publishes no page)
+    // has no words: it can be raised and read by number, but asking for its
+    // message ends the process, as for a number that is no code.
+    static constexpr row<1> documento_invalido{"O documento informado para gerar o QrCode é inválido"};
+    static constexpr row<2, texto> csc_invalido{"O CSC não é valido ou não foi informado", "value"};
+    static constexpr row<3, texto> id_token_invalido{"O Id Token não é valido ou não foi informado", "value"};
+    static constexpr row<4, core::result::number<int>> versao_nao_suportada{"A versao requisitada não é suportada",
+                                                                            "value"};
+    static constexpr row<5, texto> url_indisponivel{"A url não está disponivel para a UF solicitada", "codigo_uf"};
+    static constexpr row<6, texto_e_tamanho> hash_invalido{"A hash gerada para o QrCode está inválida", "hash-value",
+                                                           "hash-size"};
+    static constexpr row<7, texto_e_observacao> digest_invalido{"O digest gerado para o QrCode está inválido",
+                                                                "digest-value", "description",
+                                                                "O tamanho do DigestValue deve ser igual a 56"};
+    static constexpr row<8, texto, texto> valor_url_invalido{"Valor utilizado para obter a URL está inválido",
+                                                             "url-version", "url-field"};
+    static constexpr row<9, texto> url_indisponivel_versao{nullptr, "versao-nfe"};
 
 private:
     processo_gerar_qrcode_result_category();

@@ -1,7 +1,7 @@
 #pragma once
 
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
+#include <velk/core/result/detail_kinds.hpp>
+#include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 #include <velk/erp/estado.hpp>
 #include <velk/erp/tarn/ambiente.hpp>
@@ -14,16 +14,19 @@ namespace velk::erp::inline v4::tarn::nfe {
 // keep one. The state and the environment are written as their numbers.
 class processo_obter_urlchave_result_category final : public core::result::table_category {
 public:
-    template <int N>
-    using code = core::result::code<processo_obter_urlchave_result_category, N>;
-    using item = core::result::stack::item;
+    template <int N, class... Kinds>
+    using row = core::result::row<processo_obter_urlchave_result_category, N, Kinds...>;
+    template <class Numero>
+    using numero = core::result::number<Numero>;
 
     static processo_obter_urlchave_result_category const& instance();
 
-    // No consultation address for the state in that environment.
-    void create(item&, code<1>, estado uf, ambiente tipo_ambiente) const;
+    // Number, name, words, and the names of the details.
+    static constexpr row<1, numero<estado>, numero<ambiente>> url_indisponivel{
+        "A url de consulta para a UF requisitada não está disponivel", "estado", "ambiente"};
     // The state given is no state.
-    void create(item&, code<2>, ambiente tipo_ambiente) const;
+    static constexpr row<2, numero<ambiente>> estado_invalido{"O valor do estado utilizado para busca é inválido",
+                                                              "ambiente"};
 
 private:
     processo_obter_urlchave_result_category();

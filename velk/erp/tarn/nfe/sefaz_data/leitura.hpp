@@ -37,7 +37,7 @@ template <class T>
 bool read_required(xml::element const* found, std::string const& element_name, T& value, core::result::stack& stack)
 {
     if (found == nullptr) {
-        core::result::fresh<result_category, 1>(stack, element_name);
+        core::result::fresh<result_category::elemento_ausente>(stack, element_name);
         return false;
     }
     std::string const text = found->get_contents();
@@ -46,7 +46,7 @@ bool read_required(xml::element const* found, std::string const& element_name, T
         return true;
     } else {
         if (!core::read_value(value, text, stack)) {
-            core::result::chain<result_category, 2>(stack, element_name, text);
+            core::result::chain<result_category::valor_elemento_invalido>(stack, element_name, text);
             return false;
         }
         return true;

@@ -1,35 +1,38 @@
 #pragma once
 
-#include <velk/core/result/code.hpp>
-#include <velk/core/result/stack.hpp>
+#include <velk/core/result/detail_kinds.hpp>
+#include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
-
-#include <string>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data {
 
 // Failures of reading and writing the SEFAZ messages ("erp-tarn-sefaz-data").
 class result_category final : public core::result::table_category {
 public:
-    template <int N>
-    using code = core::result::code<result_category, N>;
-    using item = core::result::stack::item;
+    template <int N, class... Kinds>
+    using row = core::result::row<result_category, N, Kinds...>;
+    using texto = core::result::text;
+    using texto_omissivel = core::result::omissible<core::result::text>;
 
     static result_category const& instance();
 
-    void create(item&, code<1>, std::string const& element_name) const;
-    void create(item&, code<2>, std::string const& element_name, std::string const& element_value) const;
-    void create(item&, code<2>, std::string const& element_name) const;
-    void create(item&, code<3>, std::string const& attribute_name, std::string const& attribute_value) const;
-    void create(item&, code<3>, std::string const& attribute_name) const;
-    void create(item&, code<4>, std::string const& attribute_name) const;
-    void create(item&, code<5>) const {}
-    void create(item&, code<6>) const {}
-    void create(item&, code<7>) const {}
-    void create(item&, code<8>, std::string const& expected, std::string const& received) const;
-    void create(item&, code<9>, std::string const& request_name, std::string const& field_name) const;
-    void create(item&, code<10>, std::string const& element_name) const;
-    void create(item&, code<11>) const {}
+    // Number, name, words, and the names of the details. The value of codes
+    // 2 and 3 may be left out of the call: then only the name is stored.
+    static constexpr row<1, texto> elemento_ausente{"Um elemento do xml não foi encontrado", "element-name"};
+    static constexpr row<2, texto, texto_omissivel> valor_elemento_invalido{"O valor do element está inválido",
+                                                                            "element-name", "element-value"};
+    static constexpr row<3, texto, texto_omissivel> valor_atributo_invalido{
+        "O valor do atributo do element está inválido", "attribute-name", "attribute-value"};
+    static constexpr row<4, texto> atributo_ausente{"Um atributo do xml não foi encontrado", "attribute-name"};
+    static constexpr row<5> documento_invalido{"O documento xml está inválido"};
+    static constexpr row<6> versao_diferente{"A versão informada difere da versão esperada"};
+    static constexpr row<7> sem_documento{"Nenhum documento foi encontrado"};
+    static constexpr row<8, texto, texto> tipo_evento_diferente{"O tipo de evento diferente do esperado", "expected",
+                                                                "received"};
+    static constexpr row<9, texto, texto> valor_requisicao_invalido{"Requisição possuí valor inválido",
+                                                                    "request-name", "field-name"};
+    static constexpr row<10, texto> texto_elemento_invalido{"Valor do text do element é inválido", "element-name"};
+    static constexpr row<11> multiplos_eventos{"Múltiplos eventos no XML não são suportados"};
 
 private:
     result_category();

@@ -38,7 +38,7 @@ xml::document servico_base::request_document(xml::element const& root, core::res
 {
     xml::document document;
     if (!document.append_node(root, result)) {
-        core::result::chain<servico_result_category, 9>(result);
+        core::result::chain<servico_result_category::requisicao_invalida>(result);
         return xml::document();
     }
     return document;
@@ -68,7 +68,7 @@ xml::document servico_base::exchange(detail::soap::message const& request, web_s
     }
     xml::document document = detail::soap::extract_result_document(answer, valid_names, result);
     if (result.has_failed()) {
-        core::result::chain<servico_result_category, 11>(result);
+        core::result::chain<servico_result_category::resposta_nao_identificada>(result);
         return xml::document();
     }
     return document;

@@ -51,14 +51,14 @@ protected:
     ~servico_base();
 
     // The text of a value of the request (recipe of core::make_string); when
-    // it has none, servico_result_category code `Code` (7 for versao, 8 for
-    // ambiente, 12 for estado) is chained with the value.
-    template <int Code, class T>
+    // it has none, `Code` (versao_desconhecida, ambiente_desconhecido or
+    // estado_desconhecido) is chained with the value.
+    template <auto const& Code, class T>
     static std::string checked_text(T const& value, core::result::stack& result)
     {
         std::string text = core::make_string(value, result);
         if (result.has_failed()) {
-            core::result::chain<servico_result_category, Code>(result, value);
+            core::result::chain<Code>(result, value);
         }
         return text;
     }
@@ -70,7 +70,7 @@ protected:
     {
         xml::element const root = requisicao.get_xml(result);
         if (result.has_failed()) {
-            core::result::chain<servico_result_category, 9>(result);
+            core::result::chain<servico_result_category::requisicao_invalida>(result);
             return xml::document();
         }
         return request_document(root, result);
@@ -96,7 +96,7 @@ protected:
     {
         Resposta resposta = Resposta::from_xml(document, result);
         if (result.has_failed()) {
-            core::result::chain<servico_result_category, 2>(result, std::string());
+            core::result::chain<servico_result_category::resposta_ilegivel>(result, std::string());
         }
         return resposta;
     }

@@ -18,11 +18,12 @@ status_autorizador::resposta_type status_autorizador::executar(requisicao_type c
                                                                web_server_info const& servidor,
                                                                core::result::stack& result) const
 {
-    std::string const versao_dados = checked_text<7>(requisicao.get_versao(), result);
+    std::string const versao_dados =
+        checked_text<servico_result_category::versao_desconhecida>(requisicao.get_versao(), result);
     if (result.has_failed()) {
         return resposta_type();
     }
-    checked_text<12>(requisicao.get_estado(), result);
+    checked_text<servico_result_category::estado_desconhecido>(requisicao.get_estado(), result);
     if (result.has_failed()) {
         return resposta_type();
     }

@@ -40,7 +40,7 @@ TEST(ler_documento, refuses_what_is_no_number_with_the_converter_and_the_documen
                                recusa{detail::ler_cnpj, "08 931 527 0001 41", 2, "O CNPJ informado é inválido"},
                                recusa{detail::ler_cnpj, std::string(65, '9'), 2, "O CNPJ informado é inválido"}}) {
         stack report;
-        velk::core::result::chain<velk::core::converter_result_category, 1>(report);
+        velk::core::result::chain<velk::core::converter_result_category::bad_parameter>(report);
         std::uint64_t numero = 7;
         EXPECT_FALSE(caso.ler(caso.texto, numero, report));
         EXPECT_EQ(numero, 7u);

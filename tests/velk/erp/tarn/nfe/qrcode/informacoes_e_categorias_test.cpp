@@ -56,9 +56,9 @@ TEST(qrcode_categories, names_words_and_the_details_they_work_out)
     EXPECT_EXIT(urlchave::instance().get_message(3), testing::ExitedWithCode(1), "");
 
     result::stack s;
-    result::chain<gerar, 6>(s, "ABC");
+    result::chain<gerar::hash_invalido>(s, "ABC");
     EXPECT_EQ(s.top().get_arguments(), (arguments{{"hash-value", "ABC"}, {"hash-size", "3"}}));
-    result::chain<urlchave, 1>(s, velk::erp::estado::ma, velk::erp::tarn::ambiente::homologacao);
+    result::chain<urlchave::url_indisponivel>(s, velk::erp::estado::ma, velk::erp::tarn::ambiente::homologacao);
     EXPECT_EQ(s.top().get_arguments(), (arguments{{"estado", "9"}, {"ambiente", "0"}}));
 }
 

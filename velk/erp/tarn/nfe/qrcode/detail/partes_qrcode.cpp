@@ -24,7 +24,7 @@ bool digest_hexadecimal(std::string const& digest, std::string& hexadecimal_dige
 {
     hexadecimal_digest = hexadecimal(digest);
     if (hexadecimal_digest.size() != digest_hexadecimal_length) {
-        core::result::fresh<processo_gerar_qrcode_result_category, 7>(stack, hexadecimal_digest);
+        core::result::fresh<processo_gerar_qrcode_result_category::digest_invalido>(stack, hexadecimal_digest);
         return false;
     }
     return true;
@@ -33,7 +33,7 @@ bool digest_hexadecimal(std::string const& digest, std::string& hexadecimal_dige
 bool verificar_csc(std::string const& csc, core::result::stack& stack)
 {
     if (csc.empty()) {
-        core::result::fresh<processo_gerar_qrcode_result_category, 2>(stack, csc);
+        core::result::fresh<processo_gerar_qrcode_result_category::csc_invalido>(stack, csc);
         return false;
     }
     return true;
@@ -50,7 +50,7 @@ bool hash_qrcode(std::string const& texto, std::string const& csc, std::string& 
     sha1.update(csc);
     hash = core::binary_encoder::encode(core::binary_encoding::hexadecimal, sha1.finish(local));
     if (hash.size() != hash_hexadecimal_length) {
-        core::result::fresh<processo_gerar_qrcode_result_category, 6>(stack, hash);
+        core::result::fresh<processo_gerar_qrcode_result_category::hash_invalido>(stack, hash);
         return false;
     }
     for (char& digit : hash) {

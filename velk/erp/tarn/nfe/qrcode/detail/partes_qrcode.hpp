@@ -25,7 +25,7 @@ bool texto_do_campo(T const& valor, std::string& texto, char const* versao_url, 
     std::size_t const antes = stack.size();
     texto = core::make_string(valor, stack);
     if (stack.size() != antes) {
-        core::result::chain<processo_gerar_qrcode_result_category, 8>(stack, versao_url, campo);
+        core::result::chain<processo_gerar_qrcode_result_category::valor_url_invalido>(stack, versao_url, campo);
         return false;
     }
     return true;

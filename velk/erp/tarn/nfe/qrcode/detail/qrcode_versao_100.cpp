@@ -53,7 +53,7 @@ std::string gerar_qrcode_versao_100(sefaz_data::requisicao::documento_fiscal con
     // Only the length of the token is checked: its digits are the state's
     // business.
     if (id_token.size() != id_token_length) {
-        core::result::fresh<processo_gerar_qrcode_result_category, 3>(stack, id_token);
+        core::result::fresh<processo_gerar_qrcode_result_category::id_token_invalido>(stack, id_token);
         return {};
     }
     if (!verificar_csc(csc, stack)) {

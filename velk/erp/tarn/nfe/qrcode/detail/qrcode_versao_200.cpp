@@ -54,7 +54,7 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
     }
 
     if (id_token.empty() || id_token.size() > id_token_max_length) {
-        core::result::fresh<processo_gerar_qrcode_result_category, 3>(stack, id_token);
+        core::result::fresh<processo_gerar_qrcode_result_category::id_token_invalido>(stack, id_token);
         return {};
     }
     qrcode += "|" + id_token;

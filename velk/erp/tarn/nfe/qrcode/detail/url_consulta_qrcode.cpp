@@ -165,7 +165,7 @@ void sem_pagina(estado uf, core::result::stack& stack)
     std::size_t const antes = stack.size();
     std::string const codigo_uf = core::make_string(uf, stack);
     if (stack.size() == antes) {
-        core::result::fresh<processo_gerar_qrcode_result_category, 5>(stack, codigo_uf);
+        core::result::fresh<processo_gerar_qrcode_result_category::url_indisponivel>(stack, codigo_uf);
     }
 }
 
@@ -186,7 +186,7 @@ std::string obter_url_consulta_qrcode(ambiente tipo_ambiente, versao versao_layo
     pagina encontrada = tipo_ambiente == ambiente::producao ? linha.producao : linha.homologacao;
     if (linha.por_layout) {
         if (versao_layout == versao::versao_2_00) {
-            core::result::fresh<processo_gerar_qrcode_result_category, 9>(stack, "2.00");
+            core::result::fresh<processo_gerar_qrcode_result_category::url_indisponivel_versao>(stack, "2.00");
             return {};
         }
         encontrada = pagina_por_layout(versao_layout);

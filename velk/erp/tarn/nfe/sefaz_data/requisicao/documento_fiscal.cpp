@@ -55,27 +55,27 @@ bool read_identification(xml::element const& inf_nfe, chave_acesso& chave, versa
 {
     xml::attribute const* id = inf_nfe.find_attribute("", "Id");
     if (id == nullptr) {
-        core::result::fresh<result_category, 4>(stack, "NFe/infNFe/Id");
+        core::result::fresh<result_category::atributo_ausente>(stack, "NFe/infNFe/Id");
         return false;
     }
     std::string const& id_text = id->get_value();
     if (id_text.size() != id_length) {
-        core::result::fresh<result_category, 3>(stack, "NFe/infNFe/Id", id_text);
+        core::result::fresh<result_category::valor_atributo_invalido>(stack, "NFe/infNFe/Id", id_text);
         return false;
     }
     std::string const key_text = id_text.substr(3);
     if (!core::read_value(chave, key_text, stack)) {
         // The name is written "NFE" here, as it has always been reported.
-        core::result::chain<result_category, 3>(stack, "NFE/infNFe/Id", key_text);
+        core::result::chain<result_category::valor_atributo_invalido>(stack, "NFE/infNFe/Id", key_text);
         return false;
     }
     xml::attribute const* version = inf_nfe.find_attribute("", "versao");
     if (version == nullptr) {
-        core::result::fresh<result_category, 4>(stack, "NFe/infNFe/versao");
+        core::result::fresh<result_category::atributo_ausente>(stack, "NFe/infNFe/versao");
         return false;
     }
     if (!core::read_value(versao_layout, version->get_value(), stack)) {
-        core::result::chain<result_category, 3>(stack, "NFe/infNFe/versao", version->get_value());
+        core::result::chain<result_category::valor_atributo_invalido>(stack, "NFe/infNFe/versao", version->get_value());
         return false;
     }
     return true;
@@ -154,13 +154,13 @@ documento_fiscal documento_fiscal::from_xml(xml::element const& elemento, core::
     dados& data = *result.dados_;
     data.xml = elemento;
     if (data.xml.get_name() != "NFe") {
-        core::result::fresh<result_category, 1>(stack, "NFe");
+        core::result::fresh<result_category::elemento_ausente>(stack, "NFe");
         return result;
     }
     // Looked up in the object's own tree, so the pointers stay good.
     found_elements const found = find_elements_by_path(data.xml, wanted_paths);
     if (lookup(found, "infNFe") == nullptr) {
-        core::result::fresh<result_category, 1>(stack, "NFe/infNFe");
+        core::result::fresh<result_category::elemento_ausente>(stack, "NFe/infNFe");
         return result;
     }
     data.inf_nfe = find_child_element(data.xml, "infNFe");
@@ -179,7 +179,7 @@ documento_fiscal documento_fiscal::from_xml(xml::document const& documento, core
 {
     xml::element const* root = documento.get_root_element();
     if (root == nullptr) {
-        core::result::fresh<result_category, 5>(stack);
+        core::result::fresh<result_category::documento_invalido>(stack);
         return {};
     }
     return from_xml(*root, stack);

@@ -11,7 +11,7 @@ documento_fiscal documento_fiscal::from_nota_fiscal(fiscal::nota_fiscal const& n
                                                     core::result::stack& stack)
 {
     if (versao_layout != versao::versao_4_00) {
-        core::result::fresh<result_category, 6>(stack);
+        core::result::fresh<result_category::versao_diferente>(stack);
         return documento_fiscal();
     }
     layout_4_00::layout_4_00 const arvore = layout_4_00::montar_layout_4_00(nota, stack);

@@ -45,7 +45,7 @@ xml::element status_autorizador::get_xml(core::result::stack& result) const
     auto const text_of = [&result](auto const value, char const* field, std::string& text) {
         text = core::make_string(value, result);
         if (result.has_failed()) {
-            core::result::chain<result_category, 9>(result, "status_autorizador", field);
+            core::result::chain<result_category::valor_requisicao_invalido>(result, "status_autorizador", field);
             return false;
         }
         return true;

@@ -44,7 +44,7 @@ status_autorizador status_autorizador::from_xml(xml::element const& root, core::
     impl& fields = *resposta.impl_;
     fields.xml = root;
     if (root.get_name() != "retConsStatServ") {
-        core::result::fresh<result_category, 1>(result, "retConsStatServ");
+        core::result::fresh<result_category::elemento_ausente>(result, "retConsStatServ");
         return resposta;
     }
     auto const found = find_elements_by_path(root, {"cStat", "xMotivo", "dhRecbto", "dhRetorno", "tMed", "xObs"});
@@ -67,7 +67,7 @@ status_autorizador status_autorizador::from_xml(xml::document const& document, c
 {
     xml::element const* root = document.get_root_element();
     if (root == nullptr) {
-        core::result::fresh<result_category, 5>(result);
+        core::result::fresh<result_category::documento_invalido>(result);
         return status_autorizador();
     }
     return from_xml(*root, result);

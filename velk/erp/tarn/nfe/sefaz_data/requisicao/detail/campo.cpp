@@ -6,8 +6,8 @@ namespace {
 
 bool refuse(char const* request_name, char const* field_name, core::result::stack& stack)
 {
-    core::result::chain<core::converter_result_category, 2>(stack);
-    core::result::chain<result_category, 9>(stack, request_name, field_name);
+    core::result::chain<core::converter_result_category::invalid_value>(stack);
+    core::result::chain<result_category::valor_requisicao_invalido>(stack, request_name, field_name);
     return false;
 }
 

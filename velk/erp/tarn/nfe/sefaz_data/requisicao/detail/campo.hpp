@@ -22,7 +22,7 @@ bool escrever_campo(std::string& destino, T const& value, char const* request_na
     std::size_t const before = stack.size();
     std::string const text = core::make_string(value, stack);
     if (stack.size() != before) {
-        core::result::chain<result_category, 9>(stack, request_name, field_name);
+        core::result::chain<result_category::valor_requisicao_invalido>(stack, request_name, field_name);
         return false;
     }
     destino += text;

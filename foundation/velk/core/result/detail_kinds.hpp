@@ -1,0 +1,61 @@
+#pragma once
+
+#include <velk/core/result/stack.hpp>
+#include <velk/core/text_formatter.hpp>
+
+#include <cstddef>
+#include <string>
+
+namespace velk::core {
+inline namespace v3 {
+namespace result {
+
+// The kinds of the details of a code (row.hpp). A kind says what the caller
+// passes (parameter), how many names of the row it uses (names), whether a
+// trailing detail of this kind may be left out of the call (optional), and
+// how the value becomes text arguments of the item (store). A category with a
+// detail of its own shape defines its kind beside its table.
+
+// A text, stored as it is.
+struct text {
+    using parameter = std::string;
+    static constexpr std::size_t names = 1;
+    static constexpr bool optional = false;
+    static void store(stack::item& item, char const* const* name, std::string const& value)
+    {
+        item.set_argument(name[0], value);
+    }
+};
+
+// An integer or an enumeration, stored as its decimal number through the
+// format "{0}"; an enumeration shows as its number, not its name.
+template <class Number>
+struct number {
+    using parameter = Number;
+    static constexpr std::size_t names = 1;
+    static constexpr bool optional = false;
+    static void store(stack::item& item, char const* const* name, Number value)
+    {
+        item.set_argument(name[0], text_formatter::format("{0}", value));
+    }
+};
+
+// A detail that a call may leave out; when given, it is stored as Kind.
+template <class Kind>
+struct omissible : Kind {
+    static constexpr bool optional = true;
+};
+
+// A code that has words but is never created: no call can give its detail.
+struct not_created {
+    struct parameter {
+        parameter() = delete;
+    };
+    static constexpr std::size_t names = 0;
+    static constexpr bool optional = false;
+    static void store(stack::item&, char const* const*, parameter const&) {}
+};
+
+}  // namespace result
+}  // namespace v3
+}  // namespace velk::core
