@@ -19,6 +19,12 @@ namespace result {
 //
 // Both fill the item through the row, so a code can only be given the details
 // its row accepts.
+//
+// A step's failure is read from the stack, has_failed(), right after the step:
+// never from the value it returned (an empty text may be a valid one) nor from
+// the depth of the stack. A helper that answers bool for the caller's && chains
+// answers false exactly when it reported. A stack that has failed stops the
+// chain: the next step is not taken.
 template <auto const& Code, class... Details>
 stack::item& chain(stack& target, Details&&... details)
 {

@@ -36,9 +36,8 @@ signature::signature_template make_template(std::string const& uri)
 void assinar_elemento(xml::element& elemento_pai, std::string const& uri,
                       cryptography::pkcs12 const& certificado, core::result::stack& stack)
 {
-    std::size_t const before = stack.size();
     xml::element element_template = make_template(uri).get_element_template(stack);
-    if (stack.size() != before) {
+    if (stack.has_failed()) {
         return;
     }
     elemento_pai.append_node(std::move(element_template));

@@ -22,8 +22,7 @@ void assinar_raiz(xml::element& raiz, montar_identificador const& identificador,
 {
     remover_primeira_assinatura(raiz);
     std::string id;
-    std::size_t const before = stack.size();
-    if (!identificador(id, stack) || stack.size() != before) {
+    if (!identificador(id, stack)) {
         return;
     }
     assinar_elemento(raiz, "#" + id, certificado, stack);

@@ -63,7 +63,7 @@ bool escrever_NVE(xml::element& prod, std::vector<std::string> const& nve, core:
 bool escrever_nItem(xml::element& det, std::uint16_t nItem, core::result::stack& stack)
 {
     std::string const numero = core::make_string(nItem, stack);
-    if (numero.empty()) {
+    if (stack.has_failed()) {
         core::result::chain<sefaz_data::result_category::valor_atributo_invalido>(stack, "nItem");
         return false;
     }

@@ -20,7 +20,7 @@ namespace {
 bool escrever_dia(xml::element& forDia, std::uint16_t dia, core::result::stack& stack)
 {
     std::string const texto = core::make_string(dia, stack);
-    if (texto.empty()) {
+    if (stack.has_failed()) {
         core::result::chain<sefaz_data::result_category::texto_elemento_invalido>(stack, "dia");
         return false;
     }

@@ -11,14 +11,13 @@ namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 namespace {
 
-// The text of a value by its converter. None of these kinds has an empty text,
-// so an empty one means that the converter refused the value: its failure is
-// on the stack, and the tag goes on top of it.
+// The text of a value by its converter. When the converter refuses the value,
+// its failure is on the stack, and the tag goes on top of it.
 template <class Valor>
 bool texto_convertido(std::string const& tag, Valor const& valor, std::string& texto, core::result::stack& stack)
 {
     texto = core::make_string(valor, stack);
-    if (texto.empty()) {
+    if (stack.has_failed()) {
         core::result::chain<sefaz_data::result_category::texto_elemento_invalido>(stack, tag);
         return false;
     }

@@ -22,9 +22,8 @@ template <class T>
 bool texto_do_campo(T const& valor, std::string& texto, char const* versao_url, char const* campo,
                     core::result::stack& stack)
 {
-    std::size_t const antes = stack.size();
     texto = core::make_string(valor, stack);
-    if (stack.size() != antes) {
+    if (stack.has_failed()) {
         core::result::chain<processo_gerar_qrcode_result_category::valor_url_invalido>(stack, versao_url, campo);
         return false;
     }

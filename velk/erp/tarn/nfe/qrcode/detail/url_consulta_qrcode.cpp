@@ -162,9 +162,8 @@ pagina pagina_por_layout(versao versao_layout)
 // Code 5 with the state's text, or the converter's failure when it has none.
 void sem_pagina(estado uf, core::result::stack& stack)
 {
-    std::size_t const antes = stack.size();
     std::string const codigo_uf = core::make_string(uf, stack);
-    if (stack.size() == antes) {
+    if (!stack.has_failed()) {
         core::result::fresh<processo_gerar_qrcode_result_category::url_indisponivel>(stack, codigo_uf);
     }
 }

@@ -19,9 +19,8 @@ template <class T>
 bool escrever_campo(std::string& destino, T const& value, char const* request_name, char const* field_name,
                     core::result::stack& stack)
 {
-    std::size_t const before = stack.size();
     std::string const text = core::make_string(value, stack);
-    if (stack.size() != before) {
+    if (stack.has_failed()) {
         core::result::chain<result_category::valor_requisicao_invalido>(stack, request_name, field_name);
         return false;
     }
