@@ -2,6 +2,8 @@
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/detail/ler_documento.hpp>
 
+#include <support/palavras_categoria.hpp>
+
 #include <gtest/gtest.h>
 
 #include <cstdint>
@@ -51,6 +53,20 @@ TEST(ler_documento, refuses_what_is_no_number_with_the_converter_and_the_documen
         EXPECT_EQ(report.get_value(), caso.codigo);
         EXPECT_STREQ(report.top().get_message(), caso.mensagem);
     }
+}
+
+// The readers' own category is reached through a refusal; its words as the
+// published table gives them, code 3 included, which no reader raises.
+TEST(ler_documento, internal_errors_words)
+{
+    stack report;
+    std::uint64_t numero = 0;
+    ASSERT_FALSE(detail::ler_cpf("x", numero, report));
+    velk::test::conferir_palavras(report.top().get_category(), "internal-errors", {
+        {1, "O CPF informado é inválido"},
+        {2, "O CNPJ informado é inválido"},
+        {3, "O indicador estrangeiro informado é inválido"},
+    });
 }
 
 }  // namespace
