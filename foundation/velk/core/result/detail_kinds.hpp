@@ -13,14 +13,18 @@ namespace result {
 // The kinds of the details of a code (row.hpp). A kind says what the caller
 // passes (parameter), how many names of the row it uses (names), whether a
 // trailing detail of this kind may be left out of the call (optional), and
-// how the value becomes text arguments of the item (store). A category with a
-// detail of its own shape defines its kind beside its table.
+// how the value becomes text arguments of the item (a static function
+// store(item, first of its names, value)). A category with a detail of its own
+// shape defines its kind beside its table, from this base.
+template <class Parameter, std::size_t Names>
+struct detail_kind {
+    using parameter = Parameter;
+    static constexpr std::size_t names = Names;
+    static constexpr bool optional = false;
+};
 
 // A text, stored as it is.
-struct text {
-    using parameter = std::string;
-    static constexpr std::size_t names = 1;
-    static constexpr bool optional = false;
+struct text : detail_kind<std::string, 1> {
     static void store(stack::item& item, char const* const* name, std::string const& value)
     {
         item.set_argument(name[0], value);
@@ -30,10 +34,7 @@ struct text {
 // An integer or an enumeration, stored as its decimal number through the
 // format "{0}"; an enumeration shows as its number, not its name.
 template <class Number>
-struct number {
-    using parameter = Number;
-    static constexpr std::size_t names = 1;
-    static constexpr bool optional = false;
+struct number : detail_kind<Number, 1> {
     static void store(stack::item& item, char const* const* name, Number value)
     {
         item.set_argument(name[0], text_formatter::format("{0}", value));

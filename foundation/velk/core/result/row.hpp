@@ -39,7 +39,7 @@ class row : public code<Category, N> {
     }
 
     template <std::size_t... I>
-    static constexpr bool omissible_from(std::size_t given, std::index_sequence<I...>)
+    static constexpr bool optional_from(std::size_t given, std::index_sequence<I...>)
     {
         return ((I < given || kind<I>::optional) && ...);
     }
@@ -51,14 +51,15 @@ public:
 
     // Whether a call may give these details: one per kind, in order, each
     // convertible to what its kind takes; trailing details whose kind is
-    // omissible may be left out.
+    // optional may be left out.
     template <class... Details>
-    static constexpr bool accepts() {
+    static constexpr bool accepts()
+    {
         if constexpr (sizeof...(Details) > sizeof...(Kinds)) {
             return false;
         } else {
             return convertible<Details...>(std::index_sequence_for<Details...>{}) &&
-                   omissible_from(sizeof...(Details), std::index_sequence_for<Kinds...>{});
+                   optional_from(sizeof...(Details), std::index_sequence_for<Kinds...>{});
         }
     }
 
@@ -101,8 +102,9 @@ private:
     std::array<char const*, name_count> names_;
 };
 
-// The words of a category's rows, by number: the rows must be given as codes
-// 1, 2, 3... of one category, none left out, or the build fails.
+// The words of a category's rows, by number, for its get_message: the rows must
+// be given as codes 1, 2, 3... of one category, in order and with no gap, or
+// the build fails.
 template <class First, class... Rows>
 consteval std::array<char const*, 1 + sizeof...(Rows)> words_by_number(First const& first, Rows const&... rows)
 {

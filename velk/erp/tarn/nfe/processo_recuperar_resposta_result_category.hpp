@@ -4,7 +4,6 @@
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
-#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -20,10 +19,7 @@ public:
     using contagem = core::result::number<unsigned long>;
 
     // A list of names, stored as "[" + the names joined by ", " + "]".
-    struct lista_de_textos {
-        using parameter = std::vector<std::string>;
-        static constexpr std::size_t names = 1;
-        static constexpr bool optional = false;
+    struct lista_de_textos : core::result::detail_kind<std::vector<std::string>, 1> {
         static void store(core::result::stack::item& item, char const* const* name,
                           std::vector<std::string> const& textos);
     };

@@ -11,7 +11,6 @@
 #include <velk/erp/tarn/nfe/servidor_emissao.hpp>
 #include <velk/erp/tarn/nfe/versao.hpp>
 
-#include <cstddef>
 #include <string>
 #include <unordered_map>
 
@@ -27,25 +26,16 @@ public:
     using numero = core::result::number<Numero>;
 
     // A text left out when it is empty.
-    struct texto_se_houver {
-        using parameter = std::string;
-        static constexpr std::size_t names = 1;
-        static constexpr bool optional = false;
+    struct texto_se_houver : core::result::detail_kind<std::string, 1> {
         static void store(core::result::stack::item& item, char const* const* name, std::string const& texto);
     };
     // The texts of a SOAP fault: each pair is an argument, name and value as they are.
-    struct pares_de_texto {
-        using parameter = std::unordered_map<std::string, std::string>;
-        static constexpr std::size_t names = 0;
-        static constexpr bool optional = false;
+    struct pares_de_texto : core::result::detail_kind<std::unordered_map<std::string, std::string>, 0> {
         static void store(core::result::stack::item& item, char const* const*,
                           std::unordered_map<std::string, std::string> const& pares);
     };
     // Bytes, stored as the text they hold.
-    struct bytes {
-        using parameter = core::byte_array;
-        static constexpr std::size_t names = 1;
-        static constexpr bool optional = false;
+    struct bytes : core::result::detail_kind<core::byte_array, 1> {
         static void store(core::result::stack::item& item, char const* const* name, core::byte_array const& valor);
     };
 

@@ -4,7 +4,6 @@
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
-#include <cstddef>
 #include <string>
 
 namespace velk::erp::inline v4::tarn::nfe {
@@ -18,17 +17,11 @@ public:
     using texto = core::result::text;
 
     // A text and its length: two names.
-    struct texto_e_tamanho {
-        using parameter = std::string;
-        static constexpr std::size_t names = 2;
-        static constexpr bool optional = false;
+    struct texto_e_tamanho : core::result::detail_kind<std::string, 2> {
         static void store(core::result::stack::item& item, char const* const* name, std::string const& texto);
     };
     // A text and a fixed remark: the text's name, then the remark's name and words.
-    struct texto_e_observacao {
-        using parameter = std::string;
-        static constexpr std::size_t names = 3;
-        static constexpr bool optional = false;
+    struct texto_e_observacao : core::result::detail_kind<std::string, 3> {
         static void store(core::result::stack::item& item, char const* const* name, std::string const& texto);
     };
 
