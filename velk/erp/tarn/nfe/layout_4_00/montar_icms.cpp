@@ -244,7 +244,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_20 const& g, grupo::ICMS20& r, c
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_30 const& g, grupo::ICMS30& r, core::result::stack& stack)
 {
-    return montar_orig_CST(g, r, CST_30, stack) && mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
+    return montar_orig_CST(g, r, CST_30, stack) &&
+           mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
            montar_ST<regra::exigido, regra::exigido>(g, r, stack) &&
            montar_ICMSDeson(g.get_grupo_icms_desonerado(), motDesICMS_30, r.ICMSDeson, stack);
 }
@@ -259,7 +260,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_40 const& g, grupo::ICMS40& r, c
 // always has one.
 bool montar_grupo(fiscal::grupo_tributacao_icms_51 const& g, grupo::ICMS51& r, core::result::stack& stack)
 {
-    if (!montar_orig_CST(g, r, CST_51, stack) || !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC.emplace(), stack)) {
+    if (!montar_orig_CST(g, r, CST_51, stack) ||
+        !mapear<29>(g.get_modalidade_bc_icms(), modBC, r.modBC.emplace(), stack)) {
         return false;
     }
     r.pRedBC = g.get_percentual_reducao_bc_icms();
@@ -325,7 +327,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_102 const& g, grupo::ICMSSN102& 
 // ICMSSN201 names pCredSN also when vCredICMSSN is the value missing.
 bool montar_grupo(fiscal::grupo_tributacao_icms_201 const& g, grupo::ICMSSN201& r, core::result::stack& stack)
 {
-    return montar_orig_CSOSN(g, r, CSOSN_201, stack) && mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
+    return montar_orig_CSOSN(g, r, CSOSN_201, stack) &&
+           mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
            montar_ST<regra::exigido, regra::aberto>(g, r, stack) &&
            exigir<56>(g.get_aliquota_de_credito_sn(), r.pCredSN, pCredSN_exigido, stack) &&
            exigir<57>(g.get_valor_de_credito_sn(), r.vCredICMSSN, pCredSN_exigido, stack);
@@ -333,7 +336,8 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_201 const& g, grupo::ICMSSN201& 
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_202 const& g, grupo::ICMSSN202& r, core::result::stack& stack)
 {
-    return montar_orig_CSOSN(g, r, CSOSN_202, stack) && mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
+    return montar_orig_CSOSN(g, r, CSOSN_202, stack) &&
+           mapear<30>(g.get_modalidade_bc_icms_st(), modBCST, r.modBCST, stack) &&
            montar_ST<regra::exigido, regra::exigido>(g, r, stack);
 }
 
@@ -348,11 +352,10 @@ bool montar_grupo(fiscal::grupo_tributacao_icms_500 const& g, grupo::ICMSSN500& 
 
 bool montar_grupo(fiscal::grupo_tributacao_icms_900 const& g, grupo::ICMSSN900& r, core::result::stack& stack)
 {
-    if (!montar_orig_CSOSN(g, r, CSOSN_900, stack) || !montar_normal_opcional(g.get_tributacao_normal_icms_900(), r, stack) ||
-        !montar_ST_opcional(g.get_tributacao_st_icms_900(), r, stack)) {
-        return false;
-    }
-    return montar_credito_opcional(g.get_tributacao_credito_sn_icms_900(), r, stack);
+    return montar_orig_CSOSN(g, r, CSOSN_900, stack) &&
+           montar_normal_opcional(g.get_tributacao_normal_icms_900(), r, stack) &&
+           montar_ST_opcional(g.get_tributacao_st_icms_900(), r, stack) &&
+           montar_credito_opcional(g.get_tributacao_credito_sn_icms_900(), r, stack);
 }
 
 // ICMS by substitution passed on to another state.

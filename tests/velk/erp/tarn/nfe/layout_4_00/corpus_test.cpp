@@ -60,7 +60,8 @@ TEST(corpus_arvore, the_manufacturers_cnpj_is_CNPJFab)
 {
     namespace layout = velk::erp::tarn::nfe::layout_4_00;
     auto const& notas = velk::test::corpus_notas();
-    auto const industria = std::find_if(notas.begin(), notas.end(), [](auto const& n) { return n.nome == "nfe_rs_industria"; });
+    auto const industria =
+        std::find_if(notas.begin(), notas.end(), [](auto const& nota) { return nota.nome == "nfe_rs_industria"; });
     ASSERT_NE(industria, notas.end());
     layout::layout_4_00 arvore = velk::test::arvore_de(industria->criar());
     arvore.det.at(0).prod.CNPJFab = 92615847000107;

@@ -607,7 +607,8 @@ std::vector<escrita> const escritas_impostos = {
      [](nota_fiscal& n) { n.set_informacoes_pagamento(informacoes_pagamento()); }, "pag", "pag",
      "<pag><detPag><tPag>90</tPag><vPag>0.00</vPag></detPag></pag>"},
     {"card without integration type is not integrated",
-     pago_com(detalhes_pagamento().set_meio_pagamento(meio_pagamento::cartao_debito).set_transacao_tef(transacao_tef())),
+     pago_com(
+         detalhes_pagamento().set_meio_pagamento(meio_pagamento::cartao_debito).set_transacao_tef(transacao_tef())),
      "pag", "card", "<card><tpIntegra>2</tpIntegra></card>"},
     // closing groups
     {"marketplace",

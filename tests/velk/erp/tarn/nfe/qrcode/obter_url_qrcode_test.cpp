@@ -59,7 +59,8 @@ std::vector<corpus_case> const corpus = {
     {"offline, homologation, CPF, last day, Noronha",
      {.cuf = 26, .contingencia_offline = true, .dh_emi = "2024-12-31T23:59:59-02:00",
       .destinatario = dest{"CPF", "98765432100"}, .vnf = "0.50", .vicms = "0.09"},
-     "900000", "900000", "csc-em-minusculas-0123456789abcdefghi", "http://app.sefaz.es.gov.br/ConsultaNFCe/qrcode.aspx?"},
+     "900000", "900000", "csc-em-minusculas-0123456789abcdefghi",
+     "http://app.sefaz.es.gov.br/ConsultaNFCe/qrcode.aspx?"},
     {"online, production, CPF, token of one digit", {.tp_amb = 1, .destinatario = dest{"CPF", "52998224725"}},
      "000009", "9", "1234", "x?"},
 };
