@@ -193,7 +193,7 @@ TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_emp
         SCOPED_TRACE(failure.name);
         stack s;
         document.gerar_qrcode(failure.informacoes, failure.token, csc, s);
-        ASSERT_EQ(s.size(), 1U);
+        EXPECT_EQ(s.size(), 1U) << s.to_string();
         EXPECT_EQ(s.get_value(), failure.code);
         EXPECT_FALSE(document.get_qrcode_value().has_value());
         EXPECT_FALSE(document.get_url_chave().has_value());
