@@ -897,19 +897,28 @@ nota_fiscal nfce_rj_mercado_contingencia()
         .set_justificativa_entrada_contingencia("SEM CONEXAO COM A SEFAZ AUTORIZADORA");
 }
 
-// The wholesaler's free gift also bears ICMS by substitution (40% margin),
-// and the relief of the other situations: ICMS90 with its three parts whole.
+// ICMS by substitution on a margin of value added: the part of ICMS90
+// (tributacao_st_icms_90) or of ICMSSN900 (tributacao_st_icms_900).
+template <class ST>
+ST st_por_margem(char const* margem, char const* base, char const* aliquota, char const* icms)
+{
+    ST st;
+    st.set_modalidade_bc_icms_st(modalidade_bc_icms_st::margem_valor_agregado)
+        .set_percentual_margem_valor_adicionado_icms_st(valor(margem))
+        .set_valor_bc_icms_st(valor(base))
+        .set_aliquota_icms_st(valor(aliquota))
+        .set_valor_icms_st(valor(icms));
+    return st;
+}
+
+// The wholesaler's free gift also bears ICMS by substitution (40% margin):
+// ICMS90 with its own ICMS and the substitution, each whole.
 nota_fiscal nfe_pr_atacado_brinde_com_st()
 {
     nota_fiscal nota = com_produto(nfe_pr_atacado(), 3, [](produto& brinde) {
         grupo_tributacao_icms_90 icms = std::get<grupo_tributacao_icms_90>(brinde.get_grupo_tributacao_icms()->base());
         brinde.set_tributacao(icms.set_tributacao_st_icms_90(
-            tributacao_st_icms_90()
-                .set_modalidade_bc_icms_st(modalidade_bc_icms_st::margem_valor_agregado)
-                .set_percentual_margem_valor_adicionado_icms_st(valor("40.00"))
-                .set_valor_bc_icms_st(valor("168.00"))
-                .set_aliquota_icms_st(valor("18.00"))
-                .set_valor_icms_st(valor("8.64"))));
+            st_por_margem<tributacao_st_icms_90>("40.00", "168.00", "18.00", "8.64")));
     });
     total_nfe_icms icms = nota.get_total_nfe().get_total_icms();
     icms.set_total_base_st(valor("1251.62")).set_total_retido(valor("143.21")).set_total_da_nota(valor("2234.21"));
@@ -927,12 +936,7 @@ nota_fiscal nfe_sc_simples_retalho_com_st()
         grupo_tributacao_icms_900 icms =
             std::get<grupo_tributacao_icms_900>(retalho.get_grupo_tributacao_icms()->base());
         retalho.set_tributacao(icms.set_tributacao_st_icms_900(
-            tributacao_st_icms_900()
-                .set_modalidade_bc_icms_st(modalidade_bc_icms_st::margem_valor_agregado)
-                .set_percentual_margem_valor_adicionado_icms_st(valor("60.00"))
-                .set_valor_bc_icms_st(valor("960.00"))
-                .set_aliquota_icms_st(valor("17.00"))
-                .set_valor_icms_st(valor("61.20"))));
+            st_por_margem<tributacao_st_icms_900>("60.00", "960.00", "17.00", "61.20")));
     });
     total_nfe_icms icms = nota.get_total_nfe().get_total_icms();
     icms.set_total_base_st(valor("5312.00")).set_total_retido(valor("338.64")).set_total_da_nota(valor("6648.64"));
@@ -978,7 +982,7 @@ std::vector<nota_do_corpus> const& corpus_notas()
          nfe_sp_importacao_sem_pagamento},
         {"nfce_rj_mercado_contingencia", "NFC-e RJ: offline contingency, dhCont with xJust",
          nfce_rj_mercado_contingencia},
-        {"nfe_pr_atacado_brinde_com_st", "NF-e PR: ICMS90 with own ICMS, substitution and relief, each whole",
+        {"nfe_pr_atacado_brinde_com_st", "NF-e PR: ICMS90 with own ICMS and substitution, each whole",
          nfe_pr_atacado_brinde_com_st},
         {"nfe_sc_simples_retalho_com_st", "NF-e SC: ICMSSN900 with own ICMS, substitution and credit, each whole",
          nfe_sc_simples_retalho_com_st},
