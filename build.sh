@@ -87,7 +87,8 @@ tsan)
     done
     ensure_packages
     tsan_options=(-DCMAKE_BUILD_TYPE=Debug -DVELK_TSAN=ON -DVELK_BUILD_BENCH=OFF)
-    export TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1 ${TSAN_OPTIONS:-}"
+    # The simulator runs under it too, as a child of the tests.
+    export TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1 suppressions=$PWD/tools/sefaz-sim/tsan-suppressions.txt ${TSAN_OPTIONS:-}"
     if ((everything)); then
         build build-tsan "${tsan_options[@]}"
         run_tests build-tsan
