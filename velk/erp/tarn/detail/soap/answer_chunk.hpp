@@ -12,7 +12,7 @@ namespace velk::erp::inline v4::tarn::detail::soap {
 // but only 0 can never be the size of a chunk and so be taken for a whole one.
 // No exception leaves it: libcurl is C and cannot pass one on.
 template <class Buffer>
-std::size_t append_chunk(char* data, std::size_t size, std::size_t count, void* buffer) noexcept
+std::size_t append_chunk(char* data, std::size_t size, std::size_t count, void* buffer)
 {
     std::size_t const length = size * count;
     if (length == 0) {

@@ -93,7 +93,7 @@ CURLcode hand_over_certificate(CURL* handle, void* ssl_context, void* auth)
 
 }  // namespace
 
-CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth) noexcept
+CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth)
 {
     // libcurl is C: nothing may be thrown through it. Copying the bundle's
     // certificate and key can only fail for want of memory.

@@ -10,6 +10,6 @@ namespace velk::erp::inline v4::tarn::detail::soap {
 // disk. Answers 0, or the libcurl code of the failure: 4 when libcurl does not
 // run on OpenSSL, 43 without a bundle, 58 when OpenSSL refuses the certificate,
 // 35 when it refuses the key, 27 when memory runs out. Never throws.
-CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth) noexcept;
+CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth);
 
 }  // namespace velk::erp::inline v4::tarn::detail::soap
