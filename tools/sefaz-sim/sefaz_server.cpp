@@ -53,8 +53,20 @@ int sefaz_server::run()
         std::fprintf(stderr, "velk-sefaz-sim: cannot use the certificate, key or client CA given\n");
         return 1;
     }
+    SSL_CTX* const context = server.ssl_context();
     if (options_.tls_max == "1.2") {
-        SSL_CTX_set_max_proto_version(server.ssl_context(), TLS1_2_VERSION);
+        SSL_CTX_set_max_proto_version(context, TLS1_2_VERSION);
+    } else if (options_.tls_max == "1.1") {
+        // What a client must refuse: OpenSSL offers this only at level 0.
+        // No client certificate is asked for: under TLS 1.1 the client
+        // would have to sign with MD5 and SHA-1, which its OpenSSL refuses
+        // at the default level, so only a server that does not ask gets as
+        // far as an exchange with it.
+        SSL_CTX_set_security_level(context, 0);
+        SSL_CTX_set_min_proto_version(context, TLS1_1_VERSION);
+        SSL_CTX_set_max_proto_version(context, TLS1_1_VERSION);
+        SSL_CTX_set_cipher_list(context, "AES128-SHA:@SECLEVEL=0");
+        SSL_CTX_set_verify(context, SSL_VERIFY_NONE, nullptr);
     }
     server.Post(".*", [this](httplib::Request const& request, httplib::Response& response) {
         handle(request, response);
@@ -77,6 +89,12 @@ int sefaz_server::run()
 void sefaz_server::handle(httplib::Request const& request, httplib::Response& response)
 {
     recorder_.record(request);
+    if (!options_.redirect_to.empty()) {
+        log(options_, request, "redirected");
+        response.status = options_.redirect_status;
+        response.set_header("Location", options_.redirect_to);
+        return;
+    }
     switch (options_.injected) {
     case fault::close:
         log(options_, request, "closing without an answer");

@@ -35,7 +35,13 @@ bool simulator_options::parse(int argc, char** argv, simulator_options& options,
         {"--record", [&](std::string const& v) { options.record = v; return true; }},
         {"--fault", [&](std::string const& v) { return fault_from_name(v, options.injected); }},
         {"--delay-ms", [&](std::string const& v) { return read_int(v, 0, 3600000, options.delay_ms); }},
-        {"--tls-max", [&](std::string const& v) { options.tls_max = v; return v == "1.2" || v == "1.3"; }},
+        {"--tls-max",
+         [&](std::string const& v) {
+             options.tls_max = v;
+             return v == "1.1" || v == "1.2" || v == "1.3";
+         }},
+        {"--redirect-to", [&](std::string const& v) { options.redirect_to = v; return true; }},
+        {"--redirect-status", [&](std::string const& v) { return read_int(v, 300, 399, options.redirect_status); }},
     };
     for (int index = 1; index < argc; ++index) {
         std::string const name = argv[index];
@@ -103,7 +109,12 @@ std::string simulator_options::usage()
         "  --delay-ms N      the wait of --fault delay (default 3000)\n"
         "  --tls-max V       highest TLS version offered, 1.2 or 1.3 (default). Under 1.2\n"
         "                    a refused client certificate ends the handshake; under 1.3\n"
-        "                    the client learns it only when it sends or reads\n"
+        "                    the client learns it only when it sends or reads.\n"
+        "                    1.1 makes an obsolete server: TLS 1.1 only, with RSA key\n"
+        "                    exchange (no forward secrecy) at OpenSSL security level 0,\n"
+        "                    and no client certificate asked for\n"
+        "  --redirect-to URL answer every request with a redirect to URL\n"
+        "  --redirect-status N  its HTTP status (default 307; 308 keeps the method too)\n"
         "  --verbose         one line per request on stderr\n"
         "  --help            this text\n"
         "\n"

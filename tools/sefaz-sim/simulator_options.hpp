@@ -18,7 +18,9 @@ struct simulator_options {
     std::filesystem::path record;          // folder for each request received; empty: none
     fault injected = fault::none;
     int delay_ms = 3000;
-    std::string tls_max = "1.3";  // highest TLS version offered: "1.2" or "1.3"
+    std::string tls_max = "1.3";  // highest TLS version offered: "1.1", "1.2" or "1.3"
+    std::string redirect_to;      // every request answered with a redirect here; empty: none
+    int redirect_status = 307;
     bool verbose = false;
     bool help = false;
 
