@@ -19,7 +19,7 @@ bool overlap(authority_records::number_range const& one, authority_records::numb
 // duplicate's text.
 std::string earlier_authorization(document_protocol const& earlier)
 {
-    return " [nProt:" + earlier.number + "][dhAut:" + earlier.received_at + "]";
+    return "[nProt:" + earlier.number + "][dhAut:" + earlier.received_at + "]";
 }
 
 }  // namespace
@@ -52,7 +52,7 @@ void authority_records::authorize(document_protocol& protocol)
     }
     if (auto const earlier = authorized_.find(protocol.key); earlier != authorized_.end()) {
         protocol.status = 204;
-        protocol.reason = status_codes::reason(204) + earlier_authorization(earlier->second);
+        protocol.reason = status_codes::reason(204) + " " + earlier_authorization(earlier->second);
         return;
     }
     if (auto const other = keys_by_place_.find(number); other != keys_by_place_.end()) {
