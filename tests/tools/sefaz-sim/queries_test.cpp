@@ -12,6 +12,7 @@ namespace {
 using namespace velk::test;
 using velk::tools::sefaz_sim::gtin_catalogue;
 using velk::tools::sefaz_sim::gtin_item;
+using velk::tools::sefaz_sim::web_services;
 
 TEST(status, in_operation_in_its_own_environment)
 {
@@ -76,6 +77,14 @@ TEST(gtin, answers_outside_the_catalogue_and_its_body)
                             "ccgConsGtin\"><nfeResultMsg><retConsGTIN versao=\"1.00\""),
               std::string::npos)
         << envelope;
+    // The operation under a prefix leaves nfeDadosMsg without a namespace.
+    web_services::reply const prefixed = authority.exchange(replaced(
+        replaced(envelope_of(gtin_query("78935761")), "<ccgConsGTIN xmlns=", "<gtin:ccgConsGTIN xmlns:gtin="),
+        "</ccgConsGTIN>", "</gtin:ccgConsGTIN>"));
+    EXPECT_NE(prefixed.body.find("<ccgConsGTINResponse xmlns=\"http://www.portalfiscal.inf.br/nfe/wsdl/ccgConsGtin\">"
+                                 "<nfeResultMsg><retConsGTIN"),
+              std::string::npos)
+        << prefixed.body;
 }
 
 }  // namespace
