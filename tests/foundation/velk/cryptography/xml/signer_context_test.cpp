@@ -71,6 +71,11 @@ TEST(signer, digests_the_referenced_element_in_its_context)
          parsed("<r xmlns=\"urn:velk:a\">\n  <inf Id=\"A\">\n    <v>1</v>\n  </inf>\n  <supl><q>x</q></supl>\n</r>"),
          "urn:velk:a:inf"},
         {"tree made in memory", built_in_memory, "urn:velk:a:inf"},
+        // Read by the parser, so it must sign as it saves.
+        {"names outside the older XML rules",
+         parsed("<r xmlns=\"urn:velk:a\"><inf Id=\"A\"><v\xD1\x9D>1</v\xD1\x9D><\xD1\x9D p=\"1\"/></inf></r>"),
+         "urn:velk:a:inf"},
+
     };
     pkcs12 const certificate = taxpayer_pkcs12();
     for (context_case const& current : cases) {
