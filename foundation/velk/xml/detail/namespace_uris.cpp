@@ -30,12 +30,7 @@ std::string namespace_uris::as_declared(unsigned char const* href)
     return uri;
 }
 
-namespace {
-
-// Empty when the URI is one libxml2 reads and has a scheme (or is empty, the
-// undeclaration of the default namespace); else what is wrong, in the words
-// libxml2 uses when it judges a declaration itself.
-std::string uri_problem(std::string const& uri)
+std::string namespace_uris::problem_of(std::string const& uri)
 {
     if (uri.empty()) {
         return {};
@@ -48,6 +43,8 @@ std::string uri_problem(std::string const& uri)
     xmlFreeURI(parsed);
     return absolute ? std::string() : "xmlns: URI " + uri + " is not absolute";
 }
+
+namespace {
 
 // Calls visit(element, declaration) for every declaration of the document, in
 // document order and without recursion, until it returns false.
@@ -85,7 +82,7 @@ bool each_declaration(xmlDoc const& document, Visit visit)
 bool namespace_uris::check_declared(_xmlDoc const& document, std::string& problem, int& line)
 {
     return each_declaration(document, [&](xmlNode const& owner, xmlNs const& declaration) {
-        problem = uri_problem(as_declared(declaration.href));
+        problem = problem_of(as_declared(declaration.href));
         line = problem.empty() ? 0 : static_cast<int>(xmlGetLineNo(&owner));
         return problem.empty();
     });

@@ -19,6 +19,11 @@ public:
     // The URI as declared: each "&#38;" is one "&" (a raw "&" cannot occur).
     static std::string as_declared(unsigned char const* href);
 
+    // Empty when the URI can be declared: empty (the undeclaration of the
+    // default namespace) or a URI with a scheme, which is what the parser
+    // reads and a canonical form takes. Else what is wrong, in libxml2's words.
+    static std::string problem_of(std::string const& uri);
+
     // Whether every URI declared in the document, as declared, is a URI and
     // an absolute one (a canonical form takes no other). Else false, with
     // libxml2's words for what is wrong and the line of the declaration.

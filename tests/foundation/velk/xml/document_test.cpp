@@ -137,6 +137,16 @@ TEST(document_save, refuses_a_missing_root_and_bad_names)
     stack report;
     EXPECT_FALSE(full.append_node(element("b"), report));
     EXPECT_EQ(report.get_value(), 6);
+
+    // A namespace the parser would refuse, given without a declaration.
+    element relative("a");
+    relative.set_namespace_uri("relative");
+    document holder;
+    holder.append_node(relative, report);
+    report.reset();
+    EXPECT_TRUE(document::save(holder, report).empty());
+    EXPECT_EQ(report.get_value(), 3);
+    EXPECT_EQ(*report.top().find_argument("name"), "relative");
 }
 
 // One rule for names, whoever asks: the parser reading a document, save
