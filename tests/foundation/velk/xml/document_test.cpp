@@ -145,6 +145,7 @@ TEST(document_save, refuses_a_missing_root_and_bad_names)
     holder.append_node(relative, report);
     report.reset();
     EXPECT_TRUE(document::save(holder, report).empty());
+    ASSERT_TRUE(report.has_failed());
     EXPECT_EQ(report.get_value(), 3);
     EXPECT_EQ(*report.top().find_argument("name"), "relative");
 }

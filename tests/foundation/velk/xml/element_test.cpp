@@ -134,6 +134,7 @@ TEST(element_namespaces, prefixes_are_checked_and_declared_once)
         stack report;
         EXPECT_EQ(target.append_namespace(namespace_id(item.prefix, item.uri), report), item.code == 0) << item.prefix;
         if (item.code != 0) {
+            ASSERT_TRUE(report.has_failed()) << item.prefix << " " << item.uri;
             EXPECT_EQ(report.get_value(), item.code) << item.prefix;
             EXPECT_NE(report.top().get_arguments().size(), 0u);
         }
