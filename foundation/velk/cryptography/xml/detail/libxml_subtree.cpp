@@ -12,6 +12,7 @@
 #include <cstring>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <string_view>
 
 namespace velk::cryptography {
@@ -100,7 +101,10 @@ private:
     xmlChar* keep(std::string_view text);
     // A namespace URI as the canonical form writes it. Canonical XML writes
     // a declaration as an attribute, escaped alike; libxml2's canonicaliser
-    // writes the URI as it finds it, so it is given the escaped text.
+    // writes the URI as it finds it, so it is given the escaped text. Of the
+    // characters to escape only "&" can stand in a URI: one with "<", a quote
+    // or a line end is no URI, and the canonicaliser, like save, refuses it
+    // as it comes.
     xmlChar* keep_uri(std::string_view uri);
     // A parser turns every CR LF and lone CR of unescaped text into LF; the
     // saved text escapes CR in text and attribute values only.
@@ -135,20 +139,12 @@ xmlChar* builder::keep(std::string_view text)
 
 xmlChar* builder::keep_uri(std::string_view uri)
 {
-    if (uri.find_first_of("&<\"\t\n\r") == std::string_view::npos) {
+    if (uri.find('&') == std::string_view::npos) {
         return keep(uri);
     }
     std::string escaped;
     for (char const c : uri) {
-        switch (c) {
-        case '&': escaped += "&amp;"; break;
-        case '<': escaped += "&lt;"; break;
-        case '"': escaped += "&quot;"; break;
-        case '\t': escaped += "&#x9;"; break;
-        case '\n': escaped += "&#xA;"; break;
-        case '\r': escaped += "&#xD;"; break;
-        default: escaped += c;
-        }
+        escaped += c == '&' ? std::string_view("&amp;") : std::string_view(&c, 1);
     }
     return keep(escaped);
 }
