@@ -3,6 +3,8 @@
 #include <velk/erp/estado.hpp>
 #include <velk/erp/tarn/versao_biblioteca.hpp>
 
+#include <algorithm>
+
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 namespace {
@@ -31,10 +33,12 @@ bool montar_cUF(fiscal::nota_fiscal const& nota, std::uint16_t& cUF, core::resul
     return true;
 }
 
-// The check digit is the key's last character, as the model made it.
+// The check digit is the key's last character, as the model made it. The
+// key must be 44 digits (the Id of infNFe and cDV admit nothing else); that
+// the check digit is right is the model's business.
 bool montar_cDV(std::string const& chave, std::uint16_t& cDV, core::result::stack& stack)
 {
-    if (chave.size() != 44) {
+    if (chave.size() != 44 || !std::all_of(chave.begin(), chave.end(), [](char c) { return c >= '0' && c <= '9'; })) {
         return recusar<codigo::chave_acesso_invalida>(stack, chave);
     }
     cDV = static_cast<std::uint16_t>(chave.back() - '0');
@@ -62,8 +66,7 @@ bool montar_produtor(fiscal::nfp_referenciada const& referencia, grupo::cnpj_ou_
                      core::result::stack& stack)
 {
     if (auto const cnpj = referencia.get_cnpj()) {
-        return ler_documento_cnpj(*cnpj, documento, stack) ||
-               recusar<codigo::cnpj_produtor_rural_invalido>(stack, *cnpj);
+        return ler_documento_cnpj(*cnpj, documento, stack) || recusar<codigo::cnpj_produtor_rural_invalido>(stack, *cnpj);
     }
     if (auto const cpf = referencia.get_cpf()) {
         return ler_documento_cpf(*cpf, documento, stack) || recusar<codigo::cpf_produtor_rural_invalido>(stack, *cpf);
@@ -127,9 +130,15 @@ bool montar_ide(fiscal::nota_fiscal const& nota, grupo::ide& ide, core::result::
     }
     ide.cNF = nota.get_codigo_nf();
     ide.natOp = nota.get_natureza_operacao();
+    // Only the NF-e (55) and the NFC-e (65) are written in this layout.
     std::string const modelo = nota.get_modelo_emissao();
-    if (!ler_numero<codigo::modelo_invalido>(modelo, ide.mod, stack) ||
-        !ler_numero<codigo::serie_invalida>(nota.get_serie(), ide.serie, stack)) {
+    if (!ler_numero<codigo::modelo_invalido>(modelo, ide.mod, stack)) {
+        return false;
+    }
+    if (ide.mod != 55 && ide.mod != 65) {
+        return recusar<codigo::modelo_invalido>(stack, modelo);
+    }
+    if (!ler_numero<codigo::serie_invalida>(nota.get_serie(), ide.serie, stack)) {
         return false;
     }
     ide.nNF = nota.get_numero();
@@ -143,21 +152,23 @@ bool montar_ide(fiscal::nota_fiscal const& nota, grupo::ide& ide, core::result::
     if (!mapear<codigo::tipo_emissao_invalido>(nota.get_tipo_emissao(), tpEmis, ide.tpEmis, stack) ||
         !montar_cDV(nota.get_chave_44_digitos(), ide.cDV, stack) ||
         !mapear<codigo::ambiente_invalido>(nota.get_indicador_ambiente(), tpAmb, ide.tpAmb, stack) ||
-        !mapear<codigo::finalidade_emissao_invalida>(nota.get_indicador_finalidade_emissao(), finNFe, ide.finNFe,
-                                                     stack) ||
-        !mapear<codigo::consumidor_final_invalido>(nota.get_operacao_consumidor_final(), indFinal, ide.indFinal,
-                                                   stack) ||
+        !mapear<codigo::finalidade_emissao_invalida>(nota.get_indicador_finalidade_emissao(), finNFe, ide.finNFe, stack) ||
+        !mapear<codigo::consumidor_final_invalido>(nota.get_operacao_consumidor_final(), indFinal, ide.indFinal, stack) ||
         !mapear<codigo::presenca_invalida>(nota.get_indicador_presenca(), indPres, ide.indPres, stack)) {
         return false;
     }
     if (auto const intermediador = nota.get_indicador_intermediador();
-        intermediador &&
-        !mapear<codigo::intermediador_invalido>(*intermediador, indIntermed, ide.indIntermed.emplace(), stack)) {
+        intermediador && !mapear<codigo::intermediador_invalido>(*intermediador, indIntermed, ide.indIntermed.emplace(), stack)) {
         return false;
     }
     ide.procEmi = 0;
+    // Entering contingency has its time and its reason together, or neither;
+    // either alone is refused as an issue type that is not complete.
     ide.dhCont = nota.get_data_contingencia();
     ide.xJust = nota.get_justificativa_entrada_contingencia();
+    if (ide.dhCont.has_value() != ide.xJust.has_value()) {
+        return recusar<codigo::tipo_emissao_invalido>(stack, static_cast<unsigned int>(nota.get_tipo_emissao()));
+    }
     if (!montar_NFref(nota, ide.NFref, stack)) {
         return false;
     }
