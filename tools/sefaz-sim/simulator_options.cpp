@@ -114,7 +114,7 @@ std::string simulator_options::usage()
         "                    exchange (no forward secrecy) at OpenSSL security level 0,\n"
         "                    and no client certificate asked for\n"
         "  --redirect-to URL answer every request with a redirect to URL\n"
-        "  --redirect-status N  its HTTP status (default 307; 308 keeps the method too)\n"
+        "  --redirect-status N  its HTTP status (default 307, or 308: both keep the POST)\n"
         "  --verbose         one line per request on stderr\n"
         "  --help            this text\n"
         "\n"
