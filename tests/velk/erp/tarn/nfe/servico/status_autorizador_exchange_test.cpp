@@ -139,7 +139,7 @@ TEST(status_autorizador_exchange, query_over_mutual_tls_and_what_reached_the_ser
             service.executar(request, server_at(simulator.url(), each.prefix, each.header_form), result);
         ASSERT_FALSE(result.has_failed()) << result.to_string();
         EXPECT_EQ(status.get_codigo_status(), 107);
-        EXPECT_EQ(status.get_motivo(), "Servico em Operacao");
+        EXPECT_EQ(status.get_motivo(), "Serviço em Operação");
         EXPECT_EQ(status.get_data_recebimento().get_utc_offset(), -180);
         EXPECT_EQ(status.get_tempo_medio().value_or(-1), 1);
 
@@ -381,7 +381,7 @@ TEST(status_autorizador_exchange, simulator_answers_a_message_its_schema_refuses
     auto const status = nfe::sefaz_data::resposta::status_autorizador::from_xml(document, result);
     ASSERT_FALSE(result.has_failed()) << result.to_string();
     EXPECT_EQ(status.get_codigo_status(), 215);
-    EXPECT_EQ(status.get_motivo(), "Rejeicao: Falha no schema XML");
+    EXPECT_EQ(status.get_motivo(), "Rejeição: Falha no schema XML");
 }
 
 }  // namespace
