@@ -73,6 +73,19 @@ requisicao::evento substitution(char const* chave, velk::core::optional<std::str
     return made;
 }
 
+// A substitution read from a tree without chNFeRef.
+requisicao::evento substitution_without_substitute()
+{
+    stack s;
+    std::string text = velk::test::saved_text(substitution(velk::test::chave_nfce_sp, velk::test::chave_nfce_offline)
+                                                  .get_xml());
+    std::size_t const begin = text.find("<chNFeRef>");
+    text.erase(begin, text.find("</chNFeRef>") + 11 - begin);
+    auto read = requisicao::evento::from_xml(velk::test::parse_element(text), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return read;
+}
+
 TEST(servico_evento, first_checks_report_before_anything_is_sent)
 {
     auto const& servico = nfe::servico_result_category::instance();
@@ -94,6 +107,7 @@ TEST(servico_evento, first_checks_report_before_anything_is_sent)
         {"substitute issued normally",
          batch_of({ordinary, substitution(velk::test::chave_nfce_sp, velk::test::chave_nfce_sp)}),
          servico, 14, {{"valor_esperado", "7"}, {"valor_recebido", "0"}}},
+        {"no substitute", batch_of({substitution_without_substitute()}), servico, 13, {}},
     };
     for (row const& each : rows) {
         SCOPED_TRACE(each.name);

@@ -7,24 +7,6 @@
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
-namespace {
-
-// A tag that the substitution requires, kept in a field that the ordinary
-// cancellation leaves empty.
-template <class T>
-bool read_present(xml::element const* found, std::string const& element_name, core::optional<T>& value,
-                  core::result::stack& stack)
-{
-    T read{};
-    if (!read_required(found, element_name, read, stack)) {
-        return false;
-    }
-    value = std::move(read);
-    return true;
-}
-
-}  // namespace
-
 struct cancelamento::dados {
     std::uint64_t protocolo_autorizacao = 0;
     std::string justificativa;
@@ -109,10 +91,10 @@ cancelamento cancelamento::from_xml(xml::element const& det_evento, tipo_cancela
     fields.tipo = tipo;
     if (tipo == tipo_cancelamento::substituicao) {
         std::string autor;
-        if (!read_present(lookup(found, "cOrgaoAutor"), "detEvento/cOrgaoAutor", fields.codigo_orgao_autor, stack) ||
+        if (!read_optional(lookup(found, "cOrgaoAutor"), "detEvento/cOrgaoAutor", fields.codigo_orgao_autor, stack) ||
             !read_required(lookup(found, "tpAutor"), "detEvento/tpAutor", autor, stack) ||
-            !read_present(lookup(found, "verAplic"), "detEvento/verAplic", fields.versao_aplicativo, stack) ||
-            !read_present(lookup(found, "chNFeRef"), "detEvento/chNFeRef", fields.chave_acesso_substituta, stack)) {
+            !read_optional(lookup(found, "verAplic"), "detEvento/verAplic", fields.versao_aplicativo, stack) ||
+            !read_optional(lookup(found, "chNFeRef"), "detEvento/chNFeRef", fields.chave_acesso_substituta, stack)) {
             return cancelamento();
         }
     }

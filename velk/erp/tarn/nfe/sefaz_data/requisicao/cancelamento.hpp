@@ -46,11 +46,13 @@ public:
                                   chave_acesso const& substituta, core::result::stack& stack);
 
     // Reads a detEvento; the kind comes from the event's tpEvento, never from
-    // the tree. A substitution needs cOrgaoAutor, tpAutor (its value is not
-    // read), verAplic and chNFeRef; both kinds need nProt and xJust. A missing
-    // tag is code 1 ("detEvento/" and the tag), a value that does not convert
-    // code 2 over the converter's failure; either gives a default object. The
-    // element is kept whole, also what was not read.
+    // the tree. A substitution reads cOrgaoAutor, verAplic and chNFeRef when
+    // present and needs tpAutor (its value is not read); both kinds need
+    // nProt and xJust. A substitution without chNFeRef reads, and the event
+    // service refuses it. A missing tag is code 1 ("detEvento/" and the tag),
+    // a value that does not convert code 2 over the converter's failure;
+    // either gives a default object. The element is kept whole, also what was
+    // not read.
     static cancelamento from_xml(xml::element const& det_evento, tipo_cancelamento tipo,
                                  core::result::stack& stack);
     // The same for the root of a document; no root is code 5.

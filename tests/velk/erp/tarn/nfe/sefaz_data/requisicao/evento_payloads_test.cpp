@@ -98,10 +98,7 @@ TEST(cancelamento, what_from_xml_refuses)
     };
     refusal const rows[] = {
         {"<evento/>", 1, {{"element-name", "detEvento"}}},
-        {without("cOrgaoAutor"), 1, {{"element-name", "detEvento/cOrgaoAutor"}}},
         {without("tpAutor"), 1, {{"element-name", "detEvento/tpAutor"}}},
-        {without("verAplic"), 1, {{"element-name", "detEvento/verAplic"}}},
-        {without("chNFeRef"), 1, {{"element-name", "detEvento/chNFeRef"}}},
         {without("nProt"), 1, {{"element-name", "detEvento/nProt"}}},
         {without("xJust"), 1, {{"element-name", "detEvento/xJust"}}},
         {det_evento("<cOrgaoAutor>SP</cOrgaoAutor><tpAutor/><verAplic/><chNFeRef/>"), 2,
@@ -115,6 +112,10 @@ TEST(cancelamento, what_from_xml_refuses)
         expect_refusal(each, s, read.get_xml());
     }
     stack s;
+    auto const without_substitute =
+        cancelamento::from_xml(velk::test::parse_element(without("chNFeRef")), tipo_cancelamento::substituicao, s);
+    EXPECT_FALSE(s.has_failed()) << "left to the service: " << s.to_string();
+    EXPECT_FALSE(without_substitute.get_chave_acesso_substituta().has_value());
     cancelamento::from_xml(velk::test::parse_element(det_evento("<nProt>1.5</nProt><xJust/>")), tipo_cancelamento::normal, s);
     EXPECT_EQ(s.top().get_arguments(), (arguments{{"element-name", "detEvento/nProt"}, {"element-value", "1.5"}}));
     s.reset();
