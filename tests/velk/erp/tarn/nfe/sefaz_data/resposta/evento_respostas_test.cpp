@@ -29,6 +29,13 @@ velk::xml::element ret_evento_element(ret_evento_campos const& campos)
     return *batch.find_child("retEvento");
 }
 
+// The reading of one answer class, for tables of rows.
+template <class Resposta>
+void read_as(velk::xml::element const& ret_evento, stack& s)
+{
+    Resposta::from_xml(ret_evento, s);
+}
+
 TEST(respostas_evento, answers_of_each_family_read_with_their_values)
 {
     struct row {
@@ -102,25 +109,19 @@ TEST(respostas_evento, each_class_takes_the_types_of_its_family)
         std::function<void(velk::xml::element const&, stack&)> read;
         char const* expected;  // empty: accepted
     };
-    auto const as_cancelamento = [](velk::xml::element const& e, stack& s) { cancelamento::from_xml(e, s); };
-    auto const as_carta = [](velk::xml::element const& e, stack& s) { carta_correcao::from_xml(e, s); };
-    auto const as_epec = [](velk::xml::element const& e, stack& s) { epec_nfe::from_xml(e, s); };
-    auto const as_manifestacao = [](velk::xml::element const& e, stack& s) {
-        manifestacao_destinatario::from_xml(e, s);
-    };
     row const rows[] = {
-        {"110111", as_cancelamento, ""},
-        {"110112", as_cancelamento, ""},
-        {"110110", as_cancelamento, "110111 ou 110112"},
-        {"110110", as_carta, ""},
-        {"110111", as_carta, "110110"},
-        {"110140", as_epec, ""},
-        {"210200", as_epec, "110140"},
-        {"210240", as_manifestacao, ""},
-        {"210200", as_manifestacao, ""},
-        {"110111", as_manifestacao, "210200, 210210, 210220 ou 210240"},
-        {"", as_cancelamento, ""},
-        {"", as_epec, ""},
+        {"110111", read_as<cancelamento>, ""},
+        {"110112", read_as<cancelamento>, ""},
+        {"110110", read_as<cancelamento>, "110111 ou 110112"},
+        {"110110", read_as<carta_correcao>, ""},
+        {"110111", read_as<carta_correcao>, "110110"},
+        {"110140", read_as<epec_nfe>, ""},
+        {"210200", read_as<epec_nfe>, "110140"},
+        {"210240", read_as<manifestacao_destinatario>, ""},
+        {"210200", read_as<manifestacao_destinatario>, ""},
+        {"110111", read_as<manifestacao_destinatario>, "210200, 210210, 210220 ou 210240"},
+        {"", read_as<cancelamento>, ""},
+        {"", read_as<epec_nfe>, ""},
     };
     for (row const& each : rows) {
         SCOPED_TRACE(std::string(each.tipo) + " expected " + each.expected);
@@ -152,26 +153,25 @@ TEST(respostas_evento, names_of_what_is_missing_or_does_not_convert)
         int code;
         arguments expected;
     };
-    auto const as_cancelamento = [](velk::xml::element const& e, stack& s) { cancelamento::from_xml(e, s); };
     std::vector<row> const rows = {
-        {"other root", velk::test::parse_element("<retEnvEvento/>"), as_cancelamento, 1,
+        {"other root", velk::test::parse_element("<retEnvEvento/>"), read_as<cancelamento>, 1,
          {{"element-name", "retEvento"}}},
         {"no dhRegEvento", velk::test::parse_element("<retEvento><infEvento><cStat>135</cStat><xMotivo/></infEvento>"
                                                      "</retEvento>"),
-         as_cancelamento, 1, {{"element-name", "retEvento/infEvento/dhRegEvento"}}},
-        {"cStat not a number", with([](auto& c) { c.cstat = "13S"; }), as_cancelamento, 2,
+         read_as<cancelamento>, 1, {{"element-name", "retEvento/infEvento/dhRegEvento"}}},
+        {"cStat not a number", with([](auto& c) { c.cstat = "13S"; }), read_as<cancelamento>, 2,
          {{"element-name", "retEvento/infEvento/cStat"}, {"element-value", "13S"}}},
-        {"key of 43 digits", with([](auto& c) { c.chave.pop_back(); }), as_cancelamento, 2,
+        {"key of 43 digits", with([](auto& c) { c.chave.pop_back(); }), read_as<cancelamento>, 2,
          {{"element-name", "retEvento/infEvento/chNFe"},
           {"element-value", "3515030082260200012455001000992346109923465"}}},
         {"protocol of a correction letter", with([](auto& c) { c.tipo = "110110"; c.protocolo = "X"; }),
-         [](velk::xml::element const& e, stack& s) { carta_correcao::from_xml(e, s); }, 2,
+         read_as<carta_correcao>, 2,
          {{"element-name", "infEvento/nProt"}, {"element-value", "X"}}},
         {"type of an EPEC", with([](auto& c) { c.tipo = "11014O"; }),
-         [](velk::xml::element const& e, stack& s) { epec_nfe::from_xml(e, s); }, 2,
+         read_as<epec_nfe>, 2,
          {{"element-name", "infEvento/tpEvento"}, {"element-value", "11014O"}}},
         {"type of a manifestation", with([](auto& c) { c.tipo = "2102"; }),
-         [](velk::xml::element const& e, stack& s) { manifestacao_destinatario::from_xml(e, s); }, 2,
+         read_as<manifestacao_destinatario>, 2,
          {{"element-name", "retEvento/infEvento/tpEvento"}, {"element-value", "2102"}}},
     };
     for (row const& each : rows) {
