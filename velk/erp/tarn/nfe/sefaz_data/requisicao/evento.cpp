@@ -21,14 +21,25 @@ constexpr char orgao_nacional[] = "91";
 using nfe::detail::tipo_evento;
 
 // The Id of infEvento and the reference of the signature: "ID", the six
-// digits of the type, the 44 of the key and the sequence in exactly two.
+// digits of the type, the 44 of the key and the sequence in exactly two, so
+// that a sequence above 99 has no Id.
 bool escrever_id(std::string& id, tipo_evento tipo, chave_acesso const& chave, std::uint32_t sequencia,
                  core::result::stack& stack)
 {
     id = "ID";
-    return detail::escrever_campo(id, tipo, request_name, "tipo_evento", stack) &&
-           detail::escrever_campo(id, chave, request_name, "chave_acesso", stack) &&
-           detail::escrever_numero(id, sequencia, 2, true, request_name, "sequencia", stack);
+    if (!detail::escrever_campo(id, tipo, request_name, "tipo_evento", stack) ||
+        !detail::escrever_campo(id, chave, request_name, "chave_acesso", stack)) {
+        return false;
+    }
+    if (sequencia > 99) {
+        core::result::chain<core::converter_result_category, 2>(stack);
+        core::result::chain<result_category, 9>(stack, request_name, "sequencia");
+        return false;
+    }
+    if (sequencia < 10) {
+        id += '0';
+    }
+    return detail::escrever_campo(id, sequencia, request_name, "sequencia", stack);
 }
 
 // The lengths of the pieces of the Id.
