@@ -36,6 +36,12 @@ std::chrono::milliseconds servico_base::get_timeout() const { return impl_->time
 
 xml::document servico_base::request_document(xml::element const& root, core::result::stack& result)
 {
+    // An element without name is the tree of a request never made (a default
+    // inutilizacao): there is nothing to send.
+    if (root.get_name().empty()) {
+        core::result::fresh<servico_result_category, 9>(result);
+        return xml::document();
+    }
     xml::document document;
     if (!document.append_node(root, result)) {
         core::result::chain<servico_result_category, 9>(result);

@@ -30,12 +30,8 @@ status_autorizador::resposta_type status_autorizador::executar(requisicao_type c
     if (result.has_failed()) {
         return resposta_type();
     }
-    xml::document const answer =
-        exchange(request, requisicao.get_estado(), versao_dados, servidor, result_tags(), result);
-    if (result.has_failed()) {
-        return resposta_type();
-    }
-    return read_response<resposta_type>(answer, result);
+    return exchange_and_read<resposta_type>(request, requisicao.get_estado(), versao_dados, servidor, result_tags(),
+                                            result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::servico
