@@ -2,16 +2,6 @@
 
 namespace velk::erp::inline v4::tarn::nfe::servico {
 
-namespace {
-
-std::vector<std::string> const& result_tags()
-{
-    static std::vector<std::string> const tags = {"nfeAutorizacaoLoteResult", "nfeResultMsg"};
-    return tags;
-}
-
-}  // namespace
-
 autorizacao::resposta_type autorizacao::executar(requisicao_type const& requisicao, web_server_info const& servidor,
                                                  core::result::stack& result) const
 {
@@ -24,12 +14,7 @@ autorizacao::resposta_type autorizacao::executar(requisicao_type const& requisic
         core::result::chain<servico_result_category, 9>(result);
         return resposta_type();
     }
-    checked_text<12>(primeiro.get_estado(), result);
-    if (result.has_failed()) {
-        return resposta_type();
-    }
-    checked_text<8>(primeiro.get_ambiente(), result);
-    if (result.has_failed()) {
+    if (!has_text<12>(primeiro.get_estado(), result) || !has_text<8>(primeiro.get_ambiente(), result)) {
         return resposta_type();
     }
     // The batch names its own failure; only the document's refusal of the
@@ -42,8 +27,8 @@ autorizacao::resposta_type autorizacao::executar(requisicao_type const& requisic
     if (result.has_failed()) {
         return resposta_type();
     }
-    return exchange_and_read<resposta_type>(request, primeiro.get_estado(), versao_dados, servidor, result_tags(),
-                                            result);
+    return exchange_and_read<resposta_type>(request, primeiro.get_estado(), versao_dados, servidor,
+                                            {"nfeAutorizacaoLoteResult", "nfeResultMsg"}, result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::servico

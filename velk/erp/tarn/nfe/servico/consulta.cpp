@@ -2,16 +2,6 @@
 
 namespace velk::erp::inline v4::tarn::nfe::servico {
 
-namespace {
-
-std::vector<std::string> const& result_tags()
-{
-    static std::vector<std::string> const tags = {"nfeConsultaNFResult", "nfeConsultaNF2Result", "nfeResultMsg"};
-    return tags;
-}
-
-}  // namespace
-
 consulta::resposta_type consulta::executar(requisicao_type const& requisicao, web_server_info const& servidor,
                                            core::result::stack& result) const
 {
@@ -24,7 +14,8 @@ consulta::resposta_type consulta::executar(requisicao_type const& requisicao, we
         return resposta_type();
     }
     return exchange_and_read<resposta_type>(request, requisicao.get_chave_acesso().get_estado(), versao_dados,
-                                            servidor, result_tags(), result);
+                                            servidor, {"nfeConsultaNFResult", "nfeConsultaNF2Result", "nfeResultMsg"},
+                                            result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::servico

@@ -6,12 +6,6 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 
 namespace {
 
-std::vector<std::string> const& result_tags()
-{
-    static std::vector<std::string> const tags = {"ccgConsGTINResponse"};
-    return tags;
-}
-
 // The catalogue's envelope: the service namespace as make_message declares
 // it, no header, and ccgConsGTIN/nfeDadosMsg around the message.
 tarn::detail::soap::message gtin_message(xml::document const& document, web_server_info const& servidor,
@@ -46,7 +40,7 @@ consulta_gtin::resposta_type consulta_gtin::executar(requisicao_type const& requ
     if (result.has_failed()) {
         return resposta_type();
     }
-    xml::document const answer = exchange(envelope, servidor, result_tags(), result);
+    xml::document const answer = exchange(envelope, servidor, {"ccgConsGTINResponse"}, result);
     if (result.has_failed()) {
         return resposta_type();
     }

@@ -2,26 +2,11 @@
 
 namespace velk::erp::inline v4::tarn::nfe::servico {
 
-namespace {
-
-std::vector<std::string> const& result_tags()
-{
-    static std::vector<std::string> const tags = {"nfeInutilizacaoNFResult", "nfeInutilizacaoNF2Result",
-                                                  "nfeResultMsg"};
-    return tags;
-}
-
-}  // namespace
-
 inutilizacao::resposta_type inutilizacao::executar(requisicao_type const& requisicao, web_server_info const& servidor,
                                                    core::result::stack& result) const
 {
     std::string const versao_dados = checked_text<7>(requisicao.get_versao(), result);
-    if (result.has_failed()) {
-        return resposta_type();
-    }
-    checked_text<12>(requisicao.get_estado(), result);
-    if (result.has_failed()) {
+    if (result.has_failed() || !has_text<12>(requisicao.get_estado(), result)) {
         return resposta_type();
     }
     // The request keeps its signed tree: nothing is written anew.
@@ -29,8 +14,9 @@ inutilizacao::resposta_type inutilizacao::executar(requisicao_type const& requis
     if (result.has_failed()) {
         return resposta_type();
     }
-    return exchange_and_read<resposta_type>(request, requisicao.get_estado(), versao_dados, servidor, result_tags(),
-                                            result);
+    return exchange_and_read<resposta_type>(
+        request, requisicao.get_estado(), versao_dados, servidor,
+        {"nfeInutilizacaoNFResult", "nfeInutilizacaoNF2Result", "nfeResultMsg"}, result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::servico

@@ -63,6 +63,14 @@ protected:
         return text;
     }
 
+    // The same check when the text itself is not used: false on failure.
+    template <int Code, class T>
+    static bool has_text(T const& value, core::result::stack& result)
+    {
+        checked_text<Code>(value, result);
+        return !result.has_failed();
+    }
+
     // The request's tree as a document; code 9 chained when get_xml fails or
     // the document refuses the tree, and given alone for a tree without name
     // (a request never made).
