@@ -188,8 +188,6 @@ TEST(servicos, each_service_reads_its_answer_under_its_own_result_tags)
     std::string const unreadable = "tarn-nfe-servico-geral 2";
     road const roads[] = {
         {"autorizacao, real answer of RS", call_autorizacao, enviado, "104 Lote processado"},
-        {"autorizacao, older tag", call_autorizacao, retagged(enviado, "nfeResultMsg", "nfeAutorizacaoLoteResult"),
-         "104 Lote processado"},
         {"autorizacao refuses the receipt query's tag", call_autorizacao,
          retagged(enviado, "nfeResultMsg", "nfeRetAutorizacaoResult"),
          refused("nfeRetAutorizacaoResult", lote_tags)},
@@ -204,16 +202,12 @@ TEST(servicos, each_service_reads_its_answer_under_its_own_result_tags)
         {"consulta_recibo, answer of another service", call_consulta_recibo, envelope("nfeResultMsg", status_answer),
          "erp-tarn-sefaz-data 1 element-name=retEnviNFe / " + unreadable},
         {"inutilizacao, real answer of GO", call_inutilizacao, inutilizado, "102 Inutilização de número homologado"},
-        {"inutilizacao, the 2.00 tag", call_inutilizacao,
-         retagged(inutilizado, "nfeResultMsg", "nfeInutilizacaoNF2Result"), "102 Inutilização de número homologado"},
         // SP once answered with the message straight under Body.
         {"inutilizacao, answer without result tag", call_inutilizacao, compact_sample("soap/res_inut.xml"),
          refused("retInutNFe", "nfeInutilizacaoNFResult, nfeInutilizacaoNF2Result, nfeResultMsg")},
         {"inutilizacao, answer of another service", call_inutilizacao, envelope("nfeResultMsg", status_answer),
          "erp-tarn-sefaz-data 1 element-name=retInutNFe / " + unreadable},
         {"consulta", call_consulta, envelope("nfeConsultaNF2Result", consulta_answer),
-         "217 Rejeicao: NF-e nao consta na base de dados da SEFAZ"},
-        {"consulta, the 4.00 tag", call_consulta, envelope("nfeResultMsg", consulta_answer),
          "217 Rejeicao: NF-e nao consta na base de dados da SEFAZ"},
         {"consulta refuses another tag", call_consulta, envelope("nfeStatusServicoNFResult", consulta_answer),
          refused("nfeStatusServicoNFResult", "nfeConsultaNFResult, nfeConsultaNF2Result, nfeResultMsg")},
@@ -289,14 +283,9 @@ TEST(servicos, each_service_sends_its_message_in_its_envelope)
     }
 }
 
-struct first_check {
-    char const* name;
-    std::function<std::string()> run;
-    std::string expected;
-};
-
+// The report of a call that ends before anything is sent.
 template <class Service, class Request>
-std::string run_against_nothing(Request const& request)
+std::string stopped(Request const& request)
 {
     stack s;
     auto const r = ready<Service>().executar(request, nfe::web_server_info(), s);
@@ -308,60 +297,37 @@ TEST(servicos, the_checks_before_anything_is_sent)
 {
     auto const bad_version = static_cast<nfe::versao>(9);
     auto const bad_environment = static_cast<ambiente>(6);
-    auto const bad_state = static_cast<estado>(77);
     std::string const converter = "core-converter 2 / ";
-    first_check const cases[] = {
-        {"autorizacao: version of the batch",
-         [&] {
-             requisicao::lote_autorizacao lote = signed_batch();
-             lote.set_versao(bad_version);
-             return run_against_nothing<nfe::servico::autorizacao>(lote);
-         },
-         converter + "tarn-nfe-servico-geral 7 value=9"},
-        {"autorizacao: an empty batch",
-         [] { return run_against_nothing<nfe::servico::autorizacao>(requisicao::lote_autorizacao()); },
-         "erp-tarn-sefaz-data 7 / tarn-nfe-servico-geral 9"},
-        {"consulta: version",
-         [&] {
-             return run_against_nothing<nfe::servico::consulta>(
-                 requisicao::consulta::from_data(nfce_chave(), bad_version, ambiente::homologacao));
-         },
-         converter + "tarn-nfe-servico-geral 7 value=9"},
-        {"consulta: the message",
-         [&] {
-             return run_against_nothing<nfe::servico::consulta>(
-                 requisicao::consulta::from_data(nfce_chave(), nfe::versao::versao_4_00, bad_environment));
-         },
-         converter + "erp-tarn-sefaz-data 9 request-name=consulta field-name=ambiente / tarn-nfe-servico-geral 9"},
-        {"consulta_recibo: state before environment and version",
-         [&] {
-             return run_against_nothing<nfe::servico::consulta_recibo>(
-                 requisicao::consulta_recibo::from_data(bad_environment, bad_version, 1, bad_state, modelo::nfe));
-         },
-         converter + "tarn-nfe-servico-geral 12 value=77"},
-        {"consulta_recibo: environment before version",
-         [&] {
-             return run_against_nothing<nfe::servico::consulta_recibo>(
-                 requisicao::consulta_recibo::from_data(bad_environment, bad_version, 1, estado::sp, modelo::nfe));
-         },
-         converter + "tarn-nfe-servico-geral 8 value=6"},
-        {"consulta_recibo: version",
-         [&] {
-             return run_against_nothing<nfe::servico::consulta_recibo>(requisicao::consulta_recibo::from_data(
-                 ambiente::homologacao, bad_version, 1, estado::sp, modelo::nfe));
-         },
-         converter + "tarn-nfe-servico-geral 7 value=9"},
-        {"inutilizacao: a request never made",
-         [] { return run_against_nothing<nfe::servico::inutilizacao>(requisicao::inutilizacao()); },
-         "tarn-nfe-servico-geral 9"},
-        {"past the checks, the server's address is needed",
-         [] { return run_against_nothing<nfe::servico::consulta_gtin>(requisicao::consulta_gtin::from_data("1")); },
-         "tarn-nfe-servico-geral 5 Endpoint= Action="},
+    std::string const servico = "tarn-nfe-servico-geral ";
+    requisicao::lote_autorizacao lote = signed_batch();
+    lote.set_versao(bad_version);
+    EXPECT_EQ(stopped<nfe::servico::autorizacao>(lote), converter + servico + "7 value=9");
+    EXPECT_EQ(stopped<nfe::servico::autorizacao>(requisicao::lote_autorizacao()),
+              "erp-tarn-sefaz-data 7 / " + servico + "9");
+
+    EXPECT_EQ(stopped<nfe::servico::consulta>(
+                  requisicao::consulta::from_data(nfce_chave(), bad_version, ambiente::homologacao)),
+              converter + servico + "7 value=9");
+    EXPECT_EQ(stopped<nfe::servico::consulta>(
+                  requisicao::consulta::from_data(nfce_chave(), nfe::versao::versao_4_00, bad_environment)),
+              converter + "erp-tarn-sefaz-data 9 request-name=consulta field-name=ambiente / " + servico + "9");
+
+    // State, then environment, then version.
+    auto const recibo = [](ambiente tipo_ambiente, nfe::versao versao_layout, estado uf) {
+        return requisicao::consulta_recibo::from_data(tipo_ambiente, versao_layout, 1, uf, modelo::nfe);
     };
-    for (first_check const& each : cases) {
-        SCOPED_TRACE(each.name);
-        EXPECT_EQ(each.run(), each.expected);
-    }
+    EXPECT_EQ(stopped<nfe::servico::consulta_recibo>(recibo(bad_environment, bad_version, static_cast<estado>(77))),
+              converter + servico + "12 value=77");
+    EXPECT_EQ(stopped<nfe::servico::consulta_recibo>(recibo(bad_environment, bad_version, estado::sp)),
+              converter + servico + "8 value=6");
+    EXPECT_EQ(stopped<nfe::servico::consulta_recibo>(recibo(ambiente::homologacao, bad_version, estado::sp)),
+              converter + servico + "7 value=9");
+
+    EXPECT_EQ(stopped<nfe::servico::inutilizacao>(requisicao::inutilizacao()), servico + "9")
+        << "a request never made has nothing to send";
+    EXPECT_EQ(stopped<nfe::servico::consulta_gtin>(requisicao::consulta_gtin::from_data("1")),
+              servico + "5 Endpoint= Action=")
+        << "the catalogue checks nothing first";
 }
 
 }  // namespace

@@ -180,18 +180,4 @@ TEST(inutilizacao, read_from_a_tree_with_each_refusal)
     }
 }
 
-TEST(inutilizacao, the_signature_follows_the_fields_not_the_tree)
-{
-    // An Id changed in the tree no longer names what the fields make: the
-    // reference dangles and the signer refuses.
-    stack s;
-    std::string text = velk::test::saved_text(faixa{}.pedir(s).get_xml());
-    text.replace(text.find("Id=\"ID35"), 8, "Id=\"ID43");
-    inutilizacao pedido = inutilizacao::from_xml(velk::test::parse_element(text), s);
-    ASSERT_FALSE(s.has_failed()) << s.to_string();
-    pedido.assinar(velk::test::taxpayer_pkcs12(), s);
-    EXPECT_TRUE(s.has_failed());
-    EXPECT_EQ(velk::test::child_element_names(pedido.get_xml()).back(), "Signature") << "the template stays";
-}
-
 }  // namespace
