@@ -5,9 +5,13 @@
 #   ./build.sh test     the same set-up, then the whole test suite, twice: the
 #                       normal build (build/) and the AddressSanitizer +
 #                       UndefinedBehaviorSanitizer build (build-sanitize/)
+#   ./build.sh tsan     the ThreadSanitizer build (build-tsan/) of the library's
+#                       tests, and the exchanges with the simulator under it,
+#                       the concurrent ones among them
 #   ./build.sh bench    build and run the benchmarks (bench/)
 #
 # Options for test: --no-sanitize skips the second build.
+# Options for tsan: --all builds everything and runs the whole suite.
 set -euo pipefail
 cd "$(dirname "$0")"
 
@@ -73,6 +77,27 @@ test)
         run_tests build-sanitize
     fi
     ;;
+tsan)
+    everything=0
+    for option in "$@"; do
+        case "$option" in
+        --all) everything=1 ;;
+        *) echo "unknown option: $option" >&2; exit 2 ;;
+        esac
+    done
+    ensure_packages
+    tsan_options=(-DCMAKE_BUILD_TYPE=Debug -DVELK_TSAN=ON -DVELK_BUILD_BENCH=OFF)
+    # The simulator runs under it too, as a child of the tests.
+    export TSAN_OPTIONS="halt_on_error=1 second_deadlock_stack=1 suppressions=$PWD/tools/sefaz-sim/tsan-suppressions.txt ${TSAN_OPTIONS:-}"
+    if ((everything)); then
+        build build-tsan "${tsan_options[@]}"
+        run_tests build-tsan
+    else
+        cmake -S . -B build-tsan -G Ninja "${tsan_options[@]}"
+        cmake --build build-tsan -j "$jobs" --target velk-erp-tarn-tests velk-sefaz-sim
+        ./build-tsan/tests/velk-erp-tarn-tests --gtest_filter='status_autorizador_*'
+    fi
+    ;;
 bench)
     ensure_packages
     build build -DCMAKE_BUILD_TYPE=RelWithDebInfo
@@ -82,7 +107,7 @@ bench)
     done
     ;;
 *)
-    sed -n '2,12p' "$0" | sed 's/^# \{0,1\}//'
+    sed -n '2,16p' "$0" | sed 's/^# \{0,1\}//'
     exit 2
     ;;
 esac

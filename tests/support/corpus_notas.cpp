@@ -814,6 +814,137 @@ nota_fiscal nfe_sc_armas_com_csrt()
     return com_csrt(nfe_sc_armas(), "qFhsa1gmmOguU1Zk1ByJEjGls78=");
 }
 
+// The notes below each show one case in which the layout's schema wants
+// more, or another form, than the plain reading of the model gives.
+
+template <class Alterar>
+nota_fiscal com_produto(nota_fiscal nota, std::size_t indice, Alterar alterar)
+{
+    std::vector<produto> produtos = nota.get_produtos();
+    alterar(produtos.at(indice));
+    return nota.set_produtos(produtos);
+}
+
+// The building's contract is billed under the municipal regime of services
+// by estimate: cRegTrib 2, in one digit.
+nota_fiscal nfe_sp_servico_por_estimativa()
+{
+    nota_fiscal nota = nfe_sp_servico();
+    total_nfe total = nota.get_total_nfe();
+    total_nfe_issqn issqn = *total.get_total_issqn();
+    return nota.set_total_nfe(total.set_total_issqn(issqn.set_codigo_regime_tributacao(2)));
+}
+
+// The installation, under ISSQN, also in the field of IPI, not taxed: IPI
+// goes before ISSQN.
+nota_fiscal nfe_sp_servico_com_ipi()
+{
+    return com_produto(nfe_sp_servico(), 1, [](produto& instalacao) {
+        instalacao.set_tributacao_ipi(
+            tributacao_ipi().set_classe_enquadramento_ipi("999").set_cst_ipi(cst_ipi::cst_53));
+    });
+}
+
+// The coffee is cleared at a dry port before it leaves through Santos.
+nota_fiscal nfe_sp_exportacao_com_despacho()
+{
+    nota_fiscal nota = nfe_sp_exportacao();
+    informacoes_comercio_exterior exterior = *nota.get_comercio_exterior();
+    return nota.set_comercio_exterior(exterior.set_local_despacho("PORTO SECO DE FRANCA"));
+}
+
+// Part of the coffee came from a cooperative with the end of export and
+// under drawback: one export detail has the drawback act alone (no indirect
+// export), another the cooperative's note, its registration and quantity.
+nota_fiscal nfe_sp_exportacao_indireta()
+{
+    return com_produto(nfe_sp_exportacao(), 0, [](produto& cafe) {
+        cafe.set_grupo_exportacao(
+            {grupo_exportacao().set_numero_ato_concessorio_drawback(20240003817),
+             grupo_exportacao()
+                 .set_numero_registro_exportacao(240001234567)
+                 .set_chave_acesso_nfe_recebida(chave_acesso(35, 2406, "43917258000160", 55, 1, 31877, 90817265))
+                 .set_quantidade_exportada(valor("160.0000"))});
+    });
+}
+
+// The bakery's customer pays by debit card on a terminal apart from the
+// till, which records no integration type.
+nota_fiscal nfce_sp_padaria_cartao_avulso()
+{
+    detalhes_pagamento debito = pagamento(meio_pagamento::cartao_debito, "53.21");
+    debito.set_transacao_tef(transacao_tef().set_bandeira(bandeira_cartao::elo).set_numero_autorizacao("771204"));
+    return nota_nfce_simples().set_informacoes_pagamento(pago_com({debito}));
+}
+
+// The importer's entry note with no payment given at all: written as
+// "without payment".
+nota_fiscal nfe_sp_importacao_sem_pagamento()
+{
+    return nfe_sp_importacao().set_informacoes_pagamento(informacoes_pagamento());
+}
+
+// The grocery's till lost its link to the authority and issued offline:
+// tpEmis 9 in the key, with the time and the reason of the contingency.
+nota_fiscal nfce_rj_mercado_contingencia()
+{
+    nota_fiscal nota = nfce_rj_mercado();
+    std::string chave = nota.get_chave_44_digitos().substr(0, 34) + "9" + nota.get_chave_44_digitos().substr(35, 8);
+    chave += digito_chave(chave);
+    return nota.set_chave_44_digitos(chave)
+        .set_tipo_emissao(tipo_emissao::contingencia_offline_nfce)
+        .set_data_contingencia(horario_brasilia(2024, 6, 22, 11, 41, 0))
+        .set_justificativa_entrada_contingencia("SEM CONEXAO COM A SEFAZ AUTORIZADORA");
+}
+
+// ICMS by substitution on a margin of value added: the part of ICMS90
+// (tributacao_st_icms_90) or of ICMSSN900 (tributacao_st_icms_900).
+template <class ST>
+ST st_por_margem(char const* margem, char const* base, char const* aliquota, char const* icms)
+{
+    ST st;
+    st.set_modalidade_bc_icms_st(modalidade_bc_icms_st::margem_valor_agregado)
+        .set_percentual_margem_valor_adicionado_icms_st(valor(margem))
+        .set_valor_bc_icms_st(valor(base))
+        .set_aliquota_icms_st(valor(aliquota))
+        .set_valor_icms_st(valor(icms));
+    return st;
+}
+
+// The wholesaler's free gift also bears ICMS by substitution (40% margin):
+// ICMS90 with its own ICMS and the substitution, each whole.
+nota_fiscal nfe_pr_atacado_brinde_com_st()
+{
+    nota_fiscal nota = com_produto(nfe_pr_atacado(), 3, [](produto& brinde) {
+        grupo_tributacao_icms_90 icms = std::get<grupo_tributacao_icms_90>(brinde.get_grupo_tributacao_icms()->base());
+        brinde.set_tributacao(icms.set_tributacao_st_icms_90(
+            st_por_margem<tributacao_st_icms_90>("40.00", "168.00", "18.00", "8.64")));
+    });
+    total_nfe_icms icms = nota.get_total_nfe().get_total_icms();
+    icms.set_total_base_st(valor("1251.62")).set_total_retido(valor("143.21")).set_total_da_nota(valor("2234.21"));
+    return nota.set_total_nfe(total_nfe().set_total_icms(icms))
+        .set_cobranca(fatura("90412", "2234.21", {parcela("001", core::date(3, 7, 2024), "2234.21")}))
+        .set_informacoes_pagamento(pago_com({pagamento(meio_pagamento::duplicata_mercantil, "2234.21")
+                                                 .set_indicador_forma_pagamento(indicador_forma_pagamento::a_prazo)}));
+}
+
+// The knitwear maker's remnants also bear ICMS by substitution (60% margin):
+// ICMSSN900 with its own ICMS, the substitution and the credit, each whole.
+nota_fiscal nfe_sc_simples_retalho_com_st()
+{
+    nota_fiscal nota = com_produto(nfe_sc_simples(), 3, [](produto& retalho) {
+        grupo_tributacao_icms_900 icms =
+            std::get<grupo_tributacao_icms_900>(retalho.get_grupo_tributacao_icms()->base());
+        retalho.set_tributacao(icms.set_tributacao_st_icms_900(
+            st_por_margem<tributacao_st_icms_900>("60.00", "960.00", "17.00", "61.20")));
+    });
+    total_nfe_icms icms = nota.get_total_nfe().get_total_icms();
+    icms.set_total_base_st(valor("5312.00")).set_total_retido(valor("338.64")).set_total_da_nota(valor("6648.64"));
+    return nota.set_total_nfe(total_nfe().set_total_icms(icms))
+        .set_informacoes_pagamento(pago_com({pagamento(meio_pagamento::pagamento_instantaneo, "6648.64")
+                                                 .set_indicador_forma_pagamento(indicador_forma_pagamento::a_vista)}));
+}
+
 }  // namespace
 
 std::vector<nota_do_corpus> const& corpus_notas()
@@ -837,6 +968,24 @@ std::vector<nota_do_corpus> const& corpus_notas()
         {"nfce_pr_posto", "NFC-e PR: gasoline with pump readings, ICMS60 retained and effective, debit and cash",
          nfce_pr_posto},
         {"nfe_sp_servico", "NF-e SP: goods under ICMS and a service under ISSQN, ISSQNtot and retTrib", nfe_sp_servico},
+        {"nfe_sp_servico_por_estimativa", "NF-e SP: special regime of services, cRegTrib of one digit",
+         nfe_sp_servico_por_estimativa},
+        {"nfe_sp_servico_com_ipi", "NF-e SP: a service under ISSQN with IPI not taxed, IPI before ISSQN",
+         nfe_sp_servico_com_ipi},
+        {"nfe_sp_exportacao_com_despacho", "NF-e SP: export cleared at a dry port, xLocDespacho",
+         nfe_sp_exportacao_com_despacho},
+        {"nfe_sp_exportacao_indireta", "NF-e SP: export details, one without exportInd and one with it whole",
+         nfe_sp_exportacao_indireta},
+        {"nfce_sp_padaria_cartao_avulso", "NFC-e SP: debit card without integration type, tpIntegra 2",
+         nfce_sp_padaria_cartao_avulso},
+        {"nfe_sp_importacao_sem_pagamento", "NF-e SP: no payment given, one detPag of tPag 90 and vPag 0.00",
+         nfe_sp_importacao_sem_pagamento},
+        {"nfce_rj_mercado_contingencia", "NFC-e RJ: offline contingency, dhCont with xJust",
+         nfce_rj_mercado_contingencia},
+        {"nfe_pr_atacado_brinde_com_st", "NF-e PR: ICMS90 with own ICMS and substitution, each whole",
+         nfe_pr_atacado_brinde_com_st},
+        {"nfe_sc_simples_retalho_com_st", "NF-e SC: ICMSSN900 with own ICMS, substitution and credit, each whole",
+         nfe_sc_simples_retalho_com_st},
     };
     return notas;
 }

@@ -18,7 +18,11 @@ struct nota_do_corpus {
 // every ICMS class of the model, the three forms of PIS and COFINS, IPI taxed
 // and not taxed, import with its declaration and import tax, services under
 // ISSQN, fuel, medicine, a firearm, an export, card and cash payments with
-// change, a marketplace and a technical manager with its security code. Keys,
+// change, a marketplace and a technical manager with its security code; and
+// one note for each case where the schema asks another form than the plain
+// reading of the model (the regime of services, IPI beside ISSQN, the place
+// of clearance, indirect export, a card without integration type, no
+// payment, contingency, ICMS90 and ICMSSN900 with every part). Keys,
 // CNPJ, CPF, state registrations and GTIN carry valid check digits; the totals
 // of each note add up.
 std::vector<nota_do_corpus> const& corpus_notas();

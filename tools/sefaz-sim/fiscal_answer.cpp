@@ -1,5 +1,8 @@
 #include "fiscal_answer.hpp"
 
+#include "answer_text.hpp"
+#include "status_codes.hpp"
+
 #include <velk/erp/estado.hpp>
 
 #include <chrono>
@@ -7,32 +10,48 @@
 
 namespace velk::tools::sefaz_sim {
 
-fiscal_answer::fiscal_answer(request_envelope const& request, validation const& checked, int success_status,
-                             std::string success_reason)
+fiscal_answer::fiscal_answer(request_envelope const& request, validation const& checked,
+                             simulator_options const& options, message_facts const& facts)
+    : versao_(request.payload_attribute("versao")), ambiente_(options.ambiente), uf_(facts.uf)
 {
     using outcome = validation::outcome;
-    versao_ = request.payload_attribute("versao");
     if (checked.result == outcome::unknown_version) {
-        versao_ = "4.00";
-        status_ = 239;
-        reason_ = "Rejeicao: Cabecalho - Versao do arquivo XML nao suportada";
-    } else if (checked.result == outcome::invalid) {
-        status_ = 215;
-        reason_ = "Rejeicao: Falha no schema XML";
-    } else {
-        accepted_ = true;
-        status_ = success_status;
-        reason_ = std::move(success_reason);
+        versao_ = facts.default_versao;
     }
-    ambiente_ = request.payload_child_text("tpAmb");
-    if (ambiente_ != "1" && ambiente_ != "2") {
-        ambiente_ = "2";
-    }
-    uf_ = request.payload_child_text("cUF");
     erp::estado named{};
-    if (uf_.size() != 2 || !erp::estado_from_text(uf_, named) || uf_[0] < '0' || uf_[0] > '9') {
+    if (uf_.size() != 2 || uf_[0] < '0' || uf_[0] > '9' || !erp::estado_from_text(uf_, named)) {
         uf_ = "35";
     }
+    if (options.stopped_status != 0) {
+        decide(options.stopped_status);
+    } else if (checked.result == outcome::unknown_version) {
+        decide(239);
+    } else if (checked.result == outcome::invalid) {
+        decide(facts.schema_status);
+    } else if (!facts.ambiente.empty() && facts.ambiente != ambiente_) {
+        decide(252);
+    }
+}
+
+void fiscal_answer::decide(int status)
+{
+    decide(status, status_codes::reason(status));
+}
+
+void fiscal_answer::decide(int status, std::string reason)
+{
+    status_ = status;
+    reason_ = std::move(reason);
+}
+
+std::string fiscal_answer::environment_tags() const
+{
+    return answer_text::leaf("tpAmb", ambiente_) + answer_text::leaf("verAplic", application_version());
+}
+
+std::string fiscal_answer::status_tags() const
+{
+    return answer_text::leaf("cStat", std::to_string(status_)) + answer_text::leaf("xMotivo", reason_);
 }
 
 std::string fiscal_answer::now()

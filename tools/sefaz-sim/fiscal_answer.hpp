@@ -2,30 +2,48 @@
 
 #include "request_envelope.hpp"
 #include "schema_validator.hpp"
+#include "simulator_options.hpp"
 
 #include <string>
 
 namespace velk::tools::sefaz_sim {
 
 // What the answers of every service share: the status of the processing and
-// the values echoed from the request.
+// the version, environment and state they carry. The checks every message
+// meets come first, in the authority's order: the service stopped (108 or
+// 109), a version without schema (239), the schema (215, or the service's own
+// code), the environment (252). The service decides the rest.
 class fiscal_answer {
 public:
-    // The outcome of a message by its validation: 107-style success is the
-    // caller's; 215 for a schema failure, 239 for an unknown version.
-    fiscal_answer(request_envelope const& request, validation const& checked, int success_status,
-                  std::string success_reason);
+    // What the service reads from its message for those checks.
+    struct message_facts {
+        std::string ambiente;              // tpAmb of the request; empty for a message without one
+        std::string uf;                    // cUF to answer with; anything else than a state's code gives 35
+        std::string default_versao = "4.00";  // answered when the request's version has no schema
+        int schema_status = 215;           // the rejection of a message that fails its schema
+    };
 
-    bool accepted() const { return accepted_; }
+    fiscal_answer(request_envelope const& request, validation const& checked, simulator_options const& options,
+                  message_facts const& facts);
+
+    // True once a status is set: by one of the common checks, or by decide.
+    bool decided() const { return status_ != 0; }
+    // Sets the status, with the text of the table or the one given.
+    void decide(int status);
+    void decide(int status, std::string reason);
+
     int status() const { return status_; }
     std::string const& reason() const { return reason_; }
-    // The request's versao when a schema of it exists, else "4.00".
+    // The request's versao when a schema of it exists, else the default.
     std::string const& versao() const { return versao_; }
-    // tpAmb of the request when it is 1 or 2, else 2.
+    // The environment of this authority.
     std::string const& ambiente() const { return ambiente_; }
-    // cUF of the request when it names a state, else 35: the simulator then
-    // answers as the authorizer of Sao Paulo.
     std::string const& uf() const { return uf_; }
+
+    // tpAmb and verAplic, as most answers begin.
+    std::string environment_tags() const;
+    // cStat and xMotivo.
+    std::string status_tags() const;
 
     // Application version written in verAplic.
     static char const* application_version() { return "VELK-SIM-1.0"; }
@@ -33,7 +51,6 @@ public:
     static std::string now();
 
 private:
-    bool accepted_ = false;
     int status_ = 0;
     std::string reason_;
     std::string versao_;

@@ -1,5 +1,7 @@
 #include "request_envelope.hpp"
 
+#include "xml_reading.hpp"
+
 #include <libxml/parser.h>
 
 #include <cstring>
@@ -9,12 +11,9 @@ namespace velk::tools::sefaz_sim {
 
 namespace {
 
-constexpr char soap12_namespace[] = "http://www.w3.org/2003/05/soap-envelope";
+using xml_reading::is_named;
 
-bool is_named(xmlNode const* node, char const* name)
-{
-    return node != nullptr && std::strcmp(reinterpret_cast<char const*>(node->name), name) == 0;
-}
+constexpr char soap12_namespace[] = "http://www.w3.org/2003/05/soap-envelope";
 
 // The element children of a node; whitespace between them is allowed, any
 // other text is not (returned through `has_text`).
@@ -30,13 +29,6 @@ std::vector<xmlNode*> child_elements(xmlNode const* parent, bool& has_text)
         }
     }
     return elements;
-}
-
-std::string text_of(xmlChar* owned)
-{
-    std::string text = owned == nullptr ? std::string() : reinterpret_cast<char const*>(owned);
-    xmlFree(owned);
-    return text;
 }
 
 }  // namespace
@@ -84,18 +76,28 @@ std::unique_ptr<request_envelope> request_envelope::parse(std::string_view body,
         return nullptr;
     }
     std::vector<xmlNode*> const parts = child_elements(body_element, has_text);
-    if (parts.size() != 1 || has_text || !is_named(parts.front(), "nfeDadosMsg")) {
+    if (parts.size() != 1 || has_text) {
         refusal.reason = "O Body deve conter um único nfeDadosMsg";
         return nullptr;
     }
-    xmlNode* const dados = parts.front();
+    xmlNode* dados = parts.front();
+    request->service_namespace_ = xml_reading::namespace_of(dados);
+    if (!is_named(dados, "nfeDadosMsg")) {
+        // An operation element around the message data.
+        std::vector<xmlNode*> const inside = child_elements(dados, has_text);
+        if (inside.size() != 1 || has_text || !is_named(inside.front(), "nfeDadosMsg")) {
+            refusal.reason = "O Body deve conter um único nfeDadosMsg";
+            return nullptr;
+        }
+        request->operation_ = reinterpret_cast<char const*>(dados->name);
+        dados = inside.front();
+    }
     std::vector<xmlNode*> const messages = child_elements(dados, has_text);
     if (messages.size() != 1 || has_text) {
         refusal.reason = "O nfeDadosMsg deve conter uma única mensagem";
         return nullptr;
     }
     request->payload_ = messages.front();
-    request->service_namespace_ = dados->ns == nullptr ? "" : reinterpret_cast<char const*>(dados->ns->href);
     return request;
 }
 
@@ -106,17 +108,12 @@ std::string request_envelope::payload_name() const
 
 std::string request_envelope::payload_attribute(char const* name) const
 {
-    return text_of(xmlGetProp(payload_, reinterpret_cast<xmlChar const*>(name)));
+    return xml_reading::attribute(payload_, name);
 }
 
 std::string request_envelope::payload_child_text(char const* name) const
 {
-    for (xmlNode* child = payload_->children; child != nullptr; child = child->next) {
-        if (child->type == XML_ELEMENT_NODE && is_named(child, name)) {
-            return text_of(xmlNodeGetContent(child));
-        }
-    }
-    return std::string();
+    return xml_reading::text(xml_reading::child(payload_, name));
 }
 
 }  // namespace velk::tools::sefaz_sim

@@ -9,8 +9,9 @@
 namespace velk::tools::sefaz_sim {
 
 // A request as the services see it: a SOAP 1.2 Envelope whose Body holds
-// nfeDadosMsg with one message element. Parsed by libxml2 without network
-// access, without entity substitution, and refused when it has a DTD.
+// nfeDadosMsg with one message element, or an operation element around
+// nfeDadosMsg (the GTIN catalogue's ccgConsGTIN). Parsed by libxml2 without
+// network access, without entity substitution, and refused when it has a DTD.
 class request_envelope {
 public:
     // What is wrong with a request that isn't of that shape.
@@ -25,8 +26,12 @@ public:
     // The message inside nfeDadosMsg (consStatServ, ...).
     xmlNode* payload() const { return payload_; }
     std::string payload_name() const;
-    // Namespace of nfeDadosMsg: the service's, echoed on nfeResultMsg.
+    // Namespace of the Body's element (nfeDadosMsg or the operation): the
+    // service's, echoed on the answer.
     std::string const& service_namespace() const { return service_namespace_; }
+    // Name of the operation element around nfeDadosMsg; empty when
+    // nfeDadosMsg is the Body's element.
+    std::string const& operation() const { return operation_; }
 
     // Attribute of the message's root; empty when absent.
     std::string payload_attribute(char const* name) const;
@@ -42,6 +47,7 @@ private:
     std::unique_ptr<xmlDoc, document_deleter> document_;
     xmlNode* payload_ = nullptr;
     std::string service_namespace_;
+    std::string operation_;
 };
 
 }  // namespace velk::tools::sefaz_sim

@@ -20,6 +20,16 @@ bool read_int(std::string const& text, int low, int high, int& value)
     return true;
 }
 
+// The switch that stops every service: short, 108; indefinite, 109.
+bool stopped_from_name(std::string const& name, int& status)
+{
+    if (name == "short" || name == "indefinite") {
+        status = name == "short" ? 108 : 109;
+        return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 bool simulator_options::parse(int argc, char** argv, simulator_options& options, std::string& error)
@@ -35,7 +45,16 @@ bool simulator_options::parse(int argc, char** argv, simulator_options& options,
         {"--record", [&](std::string const& v) { options.record = v; return true; }},
         {"--fault", [&](std::string const& v) { return fault_from_name(v, options.injected); }},
         {"--delay-ms", [&](std::string const& v) { return read_int(v, 0, 3600000, options.delay_ms); }},
-        {"--tls-max", [&](std::string const& v) { options.tls_max = v; return v == "1.2" || v == "1.3"; }},
+        {"--tls-max",
+         [&](std::string const& v) {
+             options.tls_max = v;
+             return v == "1.1" || v == "1.2" || v == "1.3";
+         }},
+        {"--redirect-to", [&](std::string const& v) { options.redirect_to = v; return true; }},
+        {"--redirect-status", [&](std::string const& v) { return read_int(v, 300, 399, options.redirect_status); }},
+        {"--ambiente", [&](std::string const& v) { options.ambiente = v; return v == "1" || v == "2"; }},
+        {"--stopped", [&](std::string const& v) { return stopped_from_name(v, options.stopped_status); }},
+        {"--processing-polls", [&](std::string const& v) { return read_int(v, 0, 1000, options.processing_polls); }},
     };
     for (int index = 1; index < argc; ++index) {
         std::string const name = argv[index];
@@ -77,9 +96,28 @@ std::string simulator_options::usage()
         "A local stand-in for a SEFAZ web service: HTTPS on a loopback address, a\n"
         "client certificate required (mutual TLS), SOAP 1.2 (application/soap+xml).\n"
         "Requests are POSTs of an Envelope whose Body holds nfeDadosMsg with one\n"
-        "message; the message's root element chooses the service. Implemented:\n"
+        "message; the message's root element chooses the service. It behaves as an\n"
+        "authority: what it authorizes or disables it remembers while it runs.\n"
         "  consStatServ   status of the service: retConsStatServ, cStat 107\n"
-        "Whatever the path of the URL, the same services answer.\n"
+        "  enviNFe        authorization of a batch: retEnviNFe; indSinc 1 answers 104\n"
+        "                 with the protNFe of its one document, indSinc 0 answers 103\n"
+        "                 with a receipt. Each document is checked: schema of the batch\n"
+        "                 (225), signature (297, 298), environment (252), access key\n"
+        "                 (236, 502), disabled number (206), duplicate (204, 539);\n"
+        "                 authorized: 100 with nProt and digVal. 452 for a synchronous\n"
+        "                 batch of more than one document\n"
+        "  consReciNFe    the batch of a receipt: retConsReciNFe, 105 (see\n"
+        "                 --processing-polls), then 104 with the protNFe; 106 unknown\n"
+        "  consSitNFe     query by access key: retConsSitNFe, 100 with the protNFe of an\n"
+        "                 authorized document, 217 for any other key\n"
+        "  inutNFe        disablement of a range: retInutNFe signed with the server's\n"
+        "                 key, 102; 563 for a range that meets one disabled before, 241\n"
+        "                 for a range holding an authorized number, 297/298 signature\n"
+        "  consGTIN       the GTIN catalogue, its Body wrapped in ccgConsGTIN and the\n"
+        "                 answer in ccgConsGTINResponse: 9490 with the product, 9494\n"
+        "                 for a GTIN not in the catalogue\n"
+        "Whatever the path of the URL, the same services answer. Every answer carries\n"
+        "the environment of --ambiente, and a message of the other one gets 252.\n"
         "\n"
         "  --cert FILE       server certificate (PEM)\n"
         "  --key FILE        its private key (PEM, unencrypted)\n"
@@ -90,7 +128,8 @@ std::string simulator_options::usage()
         "                    The port is printed as the first line on stdout.\n"
         "  --schemas DIR     folder of the official NF-e schemas: each message is\n"
         "                    validated against <root>_v<versao>.xsd, and a message that\n"
-        "                    fails is answered with cStat 215 (239 for an unknown version)\n"
+        "                    fails is answered with cStat 215 (225 for a batch; 239 for\n"
+        "                    an unknown version)\n"
         "  --record DIR      write each request into DIR: NNNN.xml the body as received,\n"
         "                    NNNN.headers the HTTP request line and headers\n"
         "  --fault KIND      answer every request wrongly, one of:\n";
@@ -103,7 +142,19 @@ std::string simulator_options::usage()
         "  --delay-ms N      the wait of --fault delay (default 3000)\n"
         "  --tls-max V       highest TLS version offered, 1.2 or 1.3 (default). Under 1.2\n"
         "                    a refused client certificate ends the handshake; under 1.3\n"
+        "                    the client learns it only when it sends or reads.\n"
+        "                    1.1 makes an obsolete server: TLS 1.1 only, with RSA key\n"
+        "                    exchange (no forward secrecy) at OpenSSL security level 0,\n"
+        "                    and no client certificate asked for\n"
+        "  --redirect-to URL answer every request with a redirect to URL\n"
+        "  --redirect-status N  its HTTP status (default 307; 308 keeps the method too)\n"
         "                    the client learns it only when it sends or reads\n"
+        "  --ambiente N      environment of this authority: 2 homologation (default), 1\n"
+        "                    production\n"
+        "  --stopped HOW     every service answers \"stopped\": short (108) or\n"
+        "                    indefinite (109)\n"
+        "  --processing-polls N  receipt queries answered 105 \"in processing\" before\n"
+        "                    the batch's result (default 1)\n"
         "  --verbose         one line per request on stderr\n"
         "  --help            this text\n"
         "\n"

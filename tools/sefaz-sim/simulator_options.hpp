@@ -18,7 +18,12 @@ struct simulator_options {
     std::filesystem::path record;          // folder for each request received; empty: none
     fault injected = fault::none;
     int delay_ms = 3000;
-    std::string tls_max = "1.3";  // highest TLS version offered: "1.2" or "1.3"
+    std::string tls_max = "1.3";  // highest TLS version offered: "1.1", "1.2" or "1.3"
+    std::string redirect_to;      // every request answered with a redirect here; empty: none
+    int redirect_status = 307;
+    std::string ambiente = "2";   // tpAmb of this authority: "2" homologation, "1" production
+    int stopped_status = 0;       // 0 in operation; 108 or 109: every service answers it
+    int processing_polls = 1;     // receipt queries answered 105 before the batch's result
     bool verbose = false;
     bool help = false;
 

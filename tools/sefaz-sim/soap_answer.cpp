@@ -1,5 +1,7 @@
 #include "soap_answer.hpp"
 
+#include "answer_text.hpp"
+
 namespace velk::tools::sefaz_sim {
 
 namespace {
@@ -9,20 +11,6 @@ constexpr std::string_view envelope_open =
     "<soap:Envelope xmlns:soap=\"http://www.w3.org/2003/05/soap-envelope\" "
     "xmlns:xsi=\"http://www.w3.org/2001/XMLSchema-instance\" xmlns:xsd=\"http://www.w3.org/2001/XMLSchema\">";
 constexpr std::string_view envelope_close = "</soap:Envelope>";
-
-std::string escape_text(std::string_view text)
-{
-    std::string out;
-    for (char const c : text) {
-        switch (c) {
-        case '<': out += "&lt;"; break;
-        case '>': out += "&gt;"; break;
-        case '&': out += "&amp;"; break;
-        default: out += c;
-        }
-    }
-    return out;
-}
 
 }  // namespace
 
@@ -52,7 +40,7 @@ std::string soap_answer::fault(std::string_view code, std::string_view reason, s
     std::string out(declaration);
     out += envelope_open;
     out += "<soap:Body><soap:Fault><soap:Code><soap:Value>" + std::string(code) +
-           "</soap:Value></soap:Code><soap:Reason><soap:Text xml:lang=\"pt-BR\">" + escape_text(reason) +
+           "</soap:Value></soap:Code><soap:Reason><soap:Text xml:lang=\"pt-BR\">" + answer_text::escaped(reason) +
            "</soap:Text></soap:Reason>";
     if (!detail.empty()) {
         out += "<soap:Detail>" + std::string(detail) + "</soap:Detail>";

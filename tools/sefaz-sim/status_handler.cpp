@@ -1,19 +1,22 @@
 #include "status_handler.hpp"
 
+#include "answer_text.hpp"
 #include "fiscal_answer.hpp"
 
 namespace velk::tools::sefaz_sim {
 
 std::string status_handler::answer(request_envelope const& request, validation const& checked) const
 {
-    fiscal_answer const outcome(request, checked, 107, "Servico em Operacao");
-    std::string xml = "<retConsStatServ versao=\"" + outcome.versao() +
-                      "\" xmlns=\"http://www.portalfiscal.inf.br/nfe\"><tpAmb>" + outcome.ambiente() +
-                      "</tpAmb><verAplic>" + fiscal_answer::application_version() + "</verAplic><cStat>" +
-                      std::to_string(outcome.status()) + "</cStat><xMotivo>" + outcome.reason() + "</xMotivo><cUF>" +
-                      outcome.uf() + "</cUF><dhRecbto>" + fiscal_answer::now() + "</dhRecbto>";
-    if (outcome.accepted()) {
-        xml += "<tMed>1</tMed>";
+    fiscal_answer outcome(request, checked, context_.options,
+                          {request.payload_child_text("tpAmb"), request.payload_child_text("cUF")});
+    if (!outcome.decided()) {
+        outcome.decide(107);
+    }
+    std::string xml = answer_text::root_open("retConsStatServ", outcome.versao()) + outcome.environment_tags() +
+                      outcome.status_tags() + answer_text::leaf("cUF", outcome.uf()) +
+                      answer_text::leaf("dhRecbto", fiscal_answer::now());
+    if (outcome.status() == 107) {
+        xml += answer_text::leaf("tMed", "1");
     }
     return xml + "</retConsStatServ>";
 }

@@ -4,11 +4,11 @@
 
 namespace velk::tools::sefaz_sim {
 
-// The status service (consStatServ -> retConsStatServ): 107 "Servico em
-// Operacao" for a message that passed its schema, 215 for one that did not,
-// 239 for a version without schema.
+// The status service (consStatServ -> retConsStatServ): 107 "Serviço em
+// Operação", with the average time of answer, once the common checks pass.
 class status_handler final : public service_handler {
 public:
+    using service_handler::service_handler;
     std::string_view payload_root() const override { return "consStatServ"; }
     std::string answer(request_envelope const& request, validation const& checked) const override;
 };

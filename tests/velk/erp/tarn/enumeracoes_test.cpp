@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <memory>
 #include <string>
 
 namespace {
@@ -71,8 +73,9 @@ TEST(enumeracoes, room_and_value_are_checked_in_each_type_own_order)
              row{write(static_cast<tarn::modelo>(2), 4), converter_status::invalid_value, ""},
              row{write(static_cast<tarn::nfe::versao>(3), 3), converter_status::buffer_too_small, "4"},
              row{write(static_cast<tarn::nfe::versao>(3), 4), converter_status::invalid_value, ""},
-             row{write(tarn::nfe::versao_qrcode::versao_100, 2), converter_status::buffer_too_small, "3"},
-             row{write(static_cast<tarn::nfe::versao_qrcode>(2), 3), converter_status::invalid_value, ""},
+             // versao_qrcode asks for the 4 bytes it writes, terminator included.
+             row{write(tarn::nfe::versao_qrcode::versao_100, 3), converter_status::buffer_too_small, "4"},
+             row{write(static_cast<tarn::nfe::versao_qrcode>(2), 4), converter_status::invalid_value, ""},
              row{write(tarn::nfe::servidor_emissao::normal, 17), converter_status::buffer_too_small, "18"},
              row{write(tarn::nfe::detail::tipo_evento::cancelamento, 5), converter_status::buffer_too_small, "6"},
              row{write(static_cast<tarn::nfe::detail::tipo_evento>(8), 6), converter_status::invalid_value, ""},
@@ -82,6 +85,20 @@ TEST(enumeracoes, room_and_value_are_checked_in_each_type_own_order)
             EXPECT_EQ(r.result.second, r.size_or_text);
         }
     }
+}
+
+// A buffer of exactly the three digits, on the heap, where a byte written past
+// it is caught by the address sanitizer: nothing is written into it.
+TEST(enumeracoes, the_qrcode_version_writes_nothing_into_three_bytes)
+{
+    auto const buffer = std::make_unique<char[]>(3);
+    std::fill_n(buffer.get(), 3, 'x');
+    unsigned long size = 3;
+    EXPECT_EQ(chars_converter<tarn::nfe::versao_qrcode>::make_chars(buffer.get(), size,
+                                                                    tarn::nfe::versao_qrcode::versao_100),
+              converter_status::buffer_too_small);
+    EXPECT_EQ(size, 4u);
+    EXPECT_EQ(std::string(buffer.get(), 3), "xxx");
 }
 
 TEST(enumeracoes, reading_accepts_only_the_listed_texts_and_keeps_the_target_otherwise)

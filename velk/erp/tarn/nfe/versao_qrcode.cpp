@@ -17,15 +17,15 @@ constexpr erp::tarn::detail::enum_text_entry readable[] = {{"100", 0}, {"200", 1
 converter_status chars_converter<erp::tarn::nfe::versao_qrcode>::make_chars(char* buffer, unsigned long& size,
                                                                             erp::tarn::nfe::versao_qrcode value)
 {
-    if (size < 3) {
-        size = 3;
+    // The room asked for is what is written: the digits and the terminator.
+    if (size < 4) {
+        size = 4;
         return converter_status::buffer_too_small;
     }
     int const index = static_cast<int>(value);
     if (index < 0 || index > 1) {
         return converter_status::invalid_value;
     }
-    // Four bytes: the digits and their terminator, which is counted.
     std::memcpy(buffer, texts[index], 4);
     size = 4;
     return converter_status::done;

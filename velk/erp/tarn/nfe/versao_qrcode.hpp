@@ -15,9 +15,9 @@ enum class versao_qrcode : int {
 namespace velk::core {
 inline namespace v3 {
 
-// Asks for 3 bytes of room but writes the three digits AND a terminating zero
-// byte, reporting a size of 4: the QR code generators rely on the text with
-// its terminator, so the asymmetry stays.
+// Writes the three digits AND a terminating zero byte, and reports a size of
+// 4: the text with its terminator is what callers rely on. It asks for the 4
+// bytes it writes.
 template <>
 struct chars_converter<erp::tarn::nfe::versao_qrcode> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::nfe::versao_qrcode value);

@@ -120,8 +120,9 @@ void verificar_totais(nota_fiscal const& nota)
                   icms.get_total_imposto_de_importacao() + icms.get_total_ipi() + icms.get_total_ipi_devolvido() +
                   servicos);
 
+    // A note with no payment at all is one "without payment".
     decimal pago;
-    bool sem_pagamento = false;
+    bool sem_pagamento = nota.get_informacoes_pagamento().get_detalhes_pagamento().empty();
     for (detalhes_pagamento const& pagamento : nota.get_informacoes_pagamento().get_detalhes_pagamento()) {
         pago = pago + pagamento.get_valor_pagamento();
         sem_pagamento = sem_pagamento || pagamento.get_meio_pagamento() == meio_pagamento::sem_pagamento;
@@ -140,6 +141,9 @@ void verificar_totais(nota_fiscal const& nota)
 
 class corpus_de_notas : public testing::TestWithParam<velk::test::nota_do_corpus> {};
 
+// tpEmis of each type of issue of the model: 1 to 7, and 9 for the NFC-e offline.
+constexpr unsigned tp_emis[] = {1, 2, 3, 4, 5, 6, 7, 9};
+
 TEST_P(corpus_de_notas, is_what_a_real_issuer_sends)
 {
     nota_fiscal const nota = GetParam().criar();
@@ -153,7 +157,7 @@ TEST_P(corpus_de_notas, is_what_a_real_issuer_sends)
                                        nota.get_emitente().get_cnpj().value(),
                                        static_cast<unsigned>(std::stoul(nota.get_modelo_emissao())),
                                        static_cast<unsigned>(std::stoul(nota.get_serie())), nota.get_numero(),
-                                       nota.get_codigo_nf(), static_cast<unsigned>(nota.get_tipo_emissao()) + 1));
+                                       nota.get_codigo_nf(), tp_emis[static_cast<unsigned>(nota.get_tipo_emissao())]));
     verificar_documentos(nota);
     verificar_totais(nota);
 }

@@ -41,9 +41,8 @@ CURLcode refuse(CURLcode code)
     return code;
 }
 
-}  // namespace
-
-CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth)
+// use_client_certificate without the guard.
+CURLcode hand_over_certificate(CURL* handle, void* ssl_context, void* auth)
 {
     curl_tlssessioninfo* session = nullptr;
     CURLcode const asked = curl_easy_getinfo(handle, CURLINFO_TLS_SSL_PTR, &session);
@@ -90,6 +89,19 @@ CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth)
         return refuse(CURLE_SSL_CONNECT_ERROR);
     }
     return CURLE_OK;
+}
+
+}  // namespace
+
+CURLcode use_client_certificate(CURL* handle, void* ssl_context, void* auth)
+{
+    // libcurl is C: nothing may be thrown through it. Copying the bundle's
+    // certificate and key can only fail for want of memory.
+    try {
+        return hand_over_certificate(handle, ssl_context, auth);
+    } catch (...) {
+        return refuse(CURLE_OUT_OF_MEMORY);
+    }
 }
 
 }  // namespace velk::erp::inline v4::tarn::detail::soap

@@ -2,6 +2,7 @@
 
 #include <velk/core/fatal.hpp>
 #include <velk/core/result/report.hpp>
+#include <velk/erp/tarn/detail/soap/answer_chunk.hpp>
 #include <velk/erp/tarn/detail/soap/client_certificate.hpp>
 #include <velk/erp/tarn/detail/soap/curl_result_category.hpp>
 #include <velk/erp/tarn/detail/soap/envelope.hpp>
@@ -10,6 +11,8 @@
 
 #include <curl/curl.h>
 
+#include <memory>
+#include <new>
 #include <utility>
 
 namespace velk::erp::inline v4::tarn::detail::soap {
@@ -18,35 +21,77 @@ namespace {
 
 using servico = nfe::servico_result_category;
 
-// libcurl takes any count other than the chunk's size as a short write and
-// ends the transfer with CURLE_WRITE_ERROR; no exception may cross libcurl.
-size_t append_chunk(char* data, size_t size, size_t count, void* answer)
+struct handle_cleanup {
+    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+};
+using curl_handle = std::unique_ptr<CURL, handle_cleanup>;
+
+struct list_cleanup {
+    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+};
+using header_list = std::unique_ptr<curl_slist, list_cleanup>;
+
+// libcurl's process-wide state (its TLS back-end among it) is set up once,
+// before the first handle of the process, whatever thread makes it: the
+// caller never has to. It is never torn down, since another thread may be in
+// an exchange at any time until the process ends.
+CURLcode global_setup()
 {
-    size_t const length = size * count;
-    if (length == 0) {
-        return 0;
-    }
-    try {
-        auto const* first = reinterpret_cast<unsigned char const*>(data);
-        static_cast<core::byte_array*>(answer)->append(first, first + length);
-    } catch (...) {
-        return CURLE_WRITE_ERROR;
-    }
-    return length;
+    static CURLcode const setup = curl_global_init(CURL_GLOBAL_DEFAULT);
+    return setup;
 }
 
-curl_slist* make_headers(std::string const& action_url)
+// The three lines of every request. Empty when memory runs out.
+header_list make_headers(std::string const& action_url)
 {
     std::string const lines[] = {
         "Content-Type: application/soap+xml; charset=utf-8; action=\"" + action_url + "\"",
         "Connection: close",
         "SOAPAction: \"" + action_url + "\"",
     };
-    curl_slist* headers = nullptr;
+    header_list headers;
     for (std::string const& line : lines) {
-        headers = curl_slist_append(headers, line.c_str());
+        // On failure the list so far stays whole, and goes with `headers`.
+        curl_slist* const head = curl_slist_append(headers.get(), line.c_str());
+        if (head == nullptr) {
+            return header_list();
+        }
+        // Later lines go to the end: the head stays the first line's.
+        if (!headers) {
+            headers.reset(head);
+        }
     }
     return headers;
+}
+
+// What keeps the signed envelope from ever travelling in clear or through an
+// obsolete protocol, and keeps libcurl's name look-ups from touching the
+// process's signals (which are not thread-safe). These must hold, so a
+// libcurl that cannot honour one fails the call.
+CURLcode harden(CURL* handle)
+{
+    CURLcode const results[] = {
+        curl_easy_setopt(handle, CURLOPT_SSLVERSION, static_cast<long>(CURL_SSLVERSION_TLSv1_2)),
+        curl_easy_setopt(handle, CURLOPT_REDIR_PROTOCOLS_STR, "https"),
+        curl_easy_setopt(handle, CURLOPT_NOSIGNAL, 1L),
+    };
+    for (CURLcode const each : results) {
+        if (each != CURLE_OK) {
+            return each;
+        }
+    }
+    return CURLE_OK;
+}
+
+// Memory ran out somewhere in the exchange: reported as libcurl reports its
+// own shortage. Should even the report not fit, the process ends.
+void report_out_of_memory(core::result::stack& result) noexcept
+{
+    try {
+        report_curl_failure(CURLE_OUT_OF_MEMORY, "", result);
+    } catch (...) {
+        core::fatal_exit("Out of memory: não foi possível relatar a falta de memória da troca SOAP");
+    }
 }
 
 }  // namespace
@@ -60,6 +105,17 @@ connection::connection(core::optional<network::proxy> proxy, std::chrono::millis
 message connection::send(message const& request, std::string const& endpoint_url, std::string const& action_url,
                          core::result::stack& result) const
 {
+    try {
+        return perform(request, endpoint_url, action_url, result);
+    } catch (std::bad_alloc const&) {
+        report_out_of_memory(result);
+        return message();
+    }
+}
+
+message connection::perform(message const& request, std::string const& endpoint_url, std::string const& action_url,
+                            core::result::stack& result) const
+{
     if (endpoint_url.empty() || action_url.empty()) {
         core::result::fresh<servico, 5>(result, endpoint_url, action_url);
         return message();
@@ -69,16 +125,25 @@ message connection::send(message const& request, std::string const& endpoint_url
         return message();
     }
 
-    CURL* const handle = curl_easy_init();
+    if (CURLcode const setup = global_setup(); setup != CURLE_OK) {
+        report_curl_failure(setup, "", result);
+        return message();
+    }
+    curl_handle const owned_handle(curl_easy_init());
+    CURL* const handle = owned_handle.get();
     if (handle == nullptr) {
         core::fatal_exit("Out of memory: não foi possível alocar memória para tipo 'CURL'");
     }
     char error_buffer[CURL_ERROR_SIZE] = {};
     core::byte_array answer;
-    curl_slist* const headers = make_headers(action_url);
+    header_list const headers = make_headers(action_url);
+    if (!headers) {
+        report_curl_failure(CURLE_OUT_OF_MEMORY, "", result);
+        return message();
+    }
 
     curl_easy_setopt(handle, CURLOPT_URL, endpoint_url.c_str());
-    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headers);
+    curl_easy_setopt(handle, CURLOPT_HTTPHEADER, headers.get());
     curl_easy_setopt(handle, CURLOPT_USERAGENT, "velk-erp/4.0.0");
     curl_easy_setopt(handle, CURLOPT_ACCEPT_ENCODING, "");
     // Peer and host verification stay on: the answer of a server that is not
@@ -88,16 +153,18 @@ message connection::send(message const& request, std::string const& endpoint_url
     curl_easy_setopt(handle, CURLOPT_POSTFIELDS, envelope.data());
     curl_easy_setopt(handle, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(envelope.size()));
     curl_easy_setopt(handle, CURLOPT_WRITEDATA, &answer);
-    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &append_chunk);
+    curl_easy_setopt(handle, CURLOPT_WRITEFUNCTION, &append_chunk<core::byte_array>);
     curl_easy_setopt(handle, CURLOPT_ERRORBUFFER, error_buffer);
     curl_easy_setopt(handle, CURLOPT_FAILONERROR, 1L);
     curl_easy_setopt(handle, CURLOPT_FOLLOWLOCATION, 1L);
+    if (CURLcode const hardened = harden(handle); hardened != CURLE_OK) {
+        report_curl_failure(hardened, "", result);
+        return message();
+    }
 
     // No default limit exists: a call without one would wait for ever.
     if (timeout_.count() <= 0) {
         core::result::fresh<servico, 3>(result);
-        curl_slist_free_all(headers);
-        curl_easy_cleanup(handle);
         return message();
     }
     curl_easy_setopt(handle, CURLOPT_TIMEOUT_MS, static_cast<long>(timeout_.count()));
@@ -118,16 +185,11 @@ message connection::send(message const& request, std::string const& endpoint_url
     curl_easy_setopt(handle, CURLOPT_SSL_CTX_FUNCTION, &use_client_certificate);
 
     CURLcode const performed = curl_easy_perform(handle);
-    curl_slist_free_all(headers);
-
-    message response;
     if (performed != CURLE_OK) {
         report_curl_failure(performed, error_buffer, result);
-    } else {
-        response = parse_response(answer, result);
+        return message();
     }
-    curl_easy_cleanup(handle);
-    return response;
+    return parse_response(answer, result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::detail::soap

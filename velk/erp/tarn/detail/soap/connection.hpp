@@ -37,10 +37,18 @@ public:
     // a zero time-out (servico code 3, nothing sent), a transport failure
     // (curl_result_category, with libcurl's text in "curl_message"), an HTTP
     // status of 400 or more (curl code 8) and whatever parse_response refuses.
+    // Only TLS 1.2 or later is spoken, a redirect is followed to https only,
+    // and memory running out is reported (curl code 10), never thrown. Calls
+    // may run at the same time in any threads: nothing is shared but the
+    // immutable auth_impl, and libcurl is set up once for the whole process.
     message send(message const& request, std::string const& endpoint_url, std::string const& action_url,
                  core::result::stack& result) const;
 
 private:
+    // send without the guard against memory running out.
+    message perform(message const& request, std::string const& endpoint_url, std::string const& action_url,
+                    core::result::stack& result) const;
+
     core::optional<network::proxy> proxy_;
     std::chrono::milliseconds timeout_;
     std::shared_ptr<auth_impl const> auth_;

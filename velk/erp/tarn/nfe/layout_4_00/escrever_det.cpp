@@ -88,7 +88,7 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::prod const& prod
     bool const escrito =
         txt(e, "cProd", prod.cProd, stack) && txt(e, "cEAN", prod.cEAN, stack) && txt(e, "xProd", prod.xProd, stack) &&
         u(e, "NCM", prod.NCM, stack, 8) && escrever_NVE(e, prod.NVE, stack) && u(e, "CEST", prod.CEST, stack, 7) &&
-        txt(e, "indEscala", prod.indEscala, stack) && (!prod.CNPJFab || cnpj(e, *prod.CNPJFab, stack)) &&
+        txt(e, "indEscala", prod.indEscala, stack) && u(e, "CNPJFab", prod.CNPJFab, stack, 14) &&
         txt(e, "cBenef", prod.cBenef, stack) && escrever_EXTIPI(e, prod.EXTIPI, stack) &&
         u(e, "CFOP", prod.CFOP, stack, 4) && txt(e, "uCom", prod.uCom, stack) && d(e, "qCom", prod.qCom, stack, 4) &&
         d(e, "vUnCom", prod.vUnCom, stack, 10) && d(e, "vProd", prod.vProd, stack, 2) &&

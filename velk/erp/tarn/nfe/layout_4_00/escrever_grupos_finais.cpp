@@ -91,7 +91,7 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::exporta const& e
     xml::element e(tag);
     bool const escrito = txt(e, "UFSaidaPais", exporta.UFSaidaPais, stack) &&
                          txt(e, "xLocExporta", exporta.xLocExporta, stack) &&
-                         txt(e, "xLocDesp", exporta.xLocDesp, stack);
+                         txt(e, "xLocDespacho", exporta.xLocDespacho, stack);
     return anexar(pai, std::move(e), escrito);
 }
 

@@ -123,14 +123,20 @@ char const* const grupos_IPI[] = {"IPITrib", "IPINT"};
 char const* const grupos_PIS[] = {"PISAliq", "PISQtde", "PISNT", "PISOutr"};
 char const* const grupos_COFINS[] = {"COFINSAliq", "COFINSQtde", "COFINSNT", "COFINSOutr"};
 
-bool escrever_tributo(xml::element& imposto, grupo::ICMS const& icms, core::result::stack& stack)
+// ICMS comes before IPI and II, ISSQN after them (the builder sets no II
+// beside an ISSQN, which the layout does not admit).
+bool escrever_tributo(xml::element& imposto, grupo::ICMS const& icms, grupo::imposto const& grupos,
+                      core::result::stack& stack)
 {
-    return escrever(imposto, "ICMS", icms, stack);
+    return escrever(imposto, "ICMS", icms, stack) && escrever(imposto, "IPI", grupos.IPI, stack) &&
+           escrever(imposto, "II", grupos.II, stack);
 }
 
-bool escrever_tributo(xml::element& imposto, grupo::ISSQN const& issqn, core::result::stack& stack)
+bool escrever_tributo(xml::element& imposto, grupo::ISSQN const& issqn, grupo::imposto const& grupos,
+                      core::result::stack& stack)
 {
-    return escrever(imposto, "ISSQN", issqn, stack);
+    return escrever(imposto, "IPI", grupos.IPI, stack) && escrever(imposto, "II", grupos.II, stack) &&
+           escrever(imposto, "ISSQN", issqn, stack);
 }
 
 }  // namespace
@@ -140,8 +146,8 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::imposto const& i
     xml::element e(tag);
     bool const escrito =
         d(e, "vTotTrib", imposto.vTotTrib, stack, 2) &&
-        core::visit([&](auto const& tributo) { return escrever_tributo(e, tributo, stack); }, imposto.ICMS_ou_ISSQN) &&
-        escrever(e, "IPI", imposto.IPI, stack) && escrever(e, "II", imposto.II, stack) &&
+        core::visit([&](auto const& tributo) { return escrever_tributo(e, tributo, imposto, stack); },
+                    imposto.ICMS_ou_ISSQN) &&
         escrever(e, "PIS", imposto.PIS, stack) && escrever(e, "PISST", imposto.PISST, stack) &&
         escrever(e, "COFINS", imposto.COFINS, stack) && escrever(e, "COFINSST", imposto.COFINSST, stack) &&
         escrever(e, "ICMSUFDest", imposto.ICMSUFDest, stack);

@@ -41,7 +41,7 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQNtot const& 
                          d(e, "vCOFINS", t.vCOFINS, stack, 2) && dt(e, "dCompet", t.dCompet, stack) &&
                          d(e, "vDeducao", t.vDeducao, stack, 2) && d(e, "vOutro", t.vOutro, stack, 2) &&
                          d(e, "vDescIncond", t.vDescIncond, stack, 2) && d(e, "vDescCond", t.vDescCond, stack, 2) &&
-                         d(e, "vISSRet", t.vISSRet, stack, 2) && u(e, "cRegTrib", t.cRegTrib, stack, 2);
+                         d(e, "vISSRet", t.vISSRet, stack, 2) && u(e, "cRegTrib", t.cRegTrib, stack, 1);
     return anexar(pai, std::move(e), escrito);
 }
 

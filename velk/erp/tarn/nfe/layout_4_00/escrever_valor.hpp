@@ -36,8 +36,8 @@ bool dh(xml::element& pai, std::string const& tag, core::datetime const& valor, 
 // dt: AAAA-MM-DD.
 bool dt(xml::element& pai, std::string const& tag, core::date const& valor, core::result::stack& stack);
 
-// The documents of a party. Every CNPJ written by number goes through this
-// leaf, which names its element "CNPJ" whatever the member's name.
+// The documents of a party, in elements named "CNPJ" and "CPF". A CNPJ under
+// another name (CNPJFab, CNPJProd) is a plain u of 14 digits.
 bool cnpj(xml::element& pai, std::uint64_t valor, core::result::stack& stack);
 bool cpf(xml::element& pai, std::uint64_t valor, core::result::stack& stack);
 

@@ -59,7 +59,9 @@ bool montar_prod(fiscal::produto const& produto, grupo::prod& prod, core::result
         }
     }
     for (fiscal::grupo_exportacao const& exportacao : produto.get_grupo_exportacao()) {
-        prod.detExport.push_back(montar_detExport(exportacao));
+        if (!montar_detExport(exportacao, prod.detExport.emplace_back(), stack)) {
+            return false;
+        }
     }
     if (!montar_valores(produto, prod, stack)) {
         return false;

@@ -63,7 +63,7 @@ bool montar_exporta(fiscal::informacoes_comercio_exterior const& comercio_exteri
 {
     exporta.UFSaidaPais = comercio_exterior.get_uf_saida();
     exporta.xLocExporta = comercio_exterior.get_local_embarque();
-    exporta.xLocDesp = comercio_exterior.get_local_despacho();
+    exporta.xLocDespacho = comercio_exterior.get_local_despacho();
     return true;
 }
 

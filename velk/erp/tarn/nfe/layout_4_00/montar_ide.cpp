@@ -3,6 +3,8 @@
 #include <velk/erp/estado.hpp>
 #include <velk/erp/tarn/versao_biblioteca.hpp>
 
+#include <algorithm>
+
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 namespace {
@@ -31,10 +33,12 @@ bool montar_cUF(fiscal::nota_fiscal const& nota, std::uint16_t& cUF, core::resul
     return true;
 }
 
-// The check digit is the key's last character, as the model made it.
+// The check digit is the key's last character, as the model made it. The
+// key must be 44 digits (the Id of infNFe and cDV admit nothing else); that
+// the check digit is right is the model's business.
 bool montar_cDV(std::string const& chave, std::uint16_t& cDV, core::result::stack& stack)
 {
-    if (chave.size() != 44) {
+    if (chave.size() != 44 || !std::all_of(chave.begin(), chave.end(), [](char c) { return c >= '0' && c <= '9'; })) {
         return recusar<58>(stack, chave);
     }
     cDV = static_cast<std::uint16_t>(chave.back() - '0');
@@ -126,8 +130,15 @@ bool montar_ide(fiscal::nota_fiscal const& nota, grupo::ide& ide, core::result::
     }
     ide.cNF = nota.get_codigo_nf();
     ide.natOp = nota.get_natureza_operacao();
+    // Only the NF-e (55) and the NFC-e (65) are written in this layout.
     std::string const modelo = nota.get_modelo_emissao();
-    if (!ler_numero<71>(modelo, ide.mod, stack) || !ler_numero<72>(nota.get_serie(), ide.serie, stack)) {
+    if (!ler_numero<71>(modelo, ide.mod, stack)) {
+        return false;
+    }
+    if (ide.mod != 55 && ide.mod != 65) {
+        return recusar<71>(stack, modelo);
+    }
+    if (!ler_numero<72>(nota.get_serie(), ide.serie, stack)) {
         return false;
     }
     ide.nNF = nota.get_numero();
@@ -151,8 +162,13 @@ bool montar_ide(fiscal::nota_fiscal const& nota, grupo::ide& ide, core::result::
         return false;
     }
     ide.procEmi = 0;
+    // Entering contingency has its time and its reason together, or neither;
+    // either alone is refused as an issue type that is not complete.
     ide.dhCont = nota.get_data_contingencia();
     ide.xJust = nota.get_justificativa_entrada_contingencia();
+    if (ide.dhCont.has_value() != ide.xJust.has_value()) {
+        return recusar<45>(stack, static_cast<unsigned int>(nota.get_tipo_emissao()));
+    }
     if (!montar_NFref(nota, ide.NFref, stack)) {
         return false;
     }

@@ -4,6 +4,8 @@
 
 #include <velk/erp/tarn/nfe/layout_4_00/montagem.hpp>
 
+#include <variant>
+
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 namespace {
@@ -41,9 +43,13 @@ bool montar_calculo(fiscal::produto const& produto, fiscal::tributacao_ipi const
     return true;
 }
 
-grupo::ISSQN montar_ISSQN(fiscal::issqn const& issqn)
+// The indicators of ISSQN are the layout's codes already: indISS 1 to 7,
+// indIncentivo 1 or 2. Another value makes the group unfit, code 65.
+constexpr std::uint16_t indISS_maior = 7;
+constexpr std::uint16_t indIncentivo_maior = 2;
+
+bool montar_ISSQN(fiscal::issqn const& issqn, grupo::ISSQN& registro, core::result::stack& stack)
 {
-    grupo::ISSQN registro;
     registro.vBC = issqn.get_valor_bc();
     registro.vAliq = issqn.get_valor_aliquota();
     registro.vISSQN = issqn.get_valor_issqn();
@@ -54,14 +60,17 @@ grupo::ISSQN montar_ISSQN(fiscal::issqn const& issqn)
     registro.vDescIncond = issqn.get_valor_desconto_incondicionado();
     registro.vDescCond = issqn.get_valor_desconto_condicionado();
     registro.vISSRet = issqn.get_valor_retencao_iss();
-    // indISS and indIncentivo are the layout's codes already.
     registro.indISS = issqn.get_indicador_iss();
     registro.cServico = issqn.get_codigo_servico();
     registro.cMun = issqn.get_codigo_municipio_incidencia();
     registro.cPais = issqn.get_codigo_pais();
     registro.nProcesso = issqn.get_numero_processo();
     registro.indIncentivo = issqn.get_indicador_incentivo();
-    return registro;
+    if (registro.indISS == 0 || registro.indISS > indISS_maior || registro.indIncentivo == 0 ||
+        registro.indIncentivo > indIncentivo_maior) {
+        return recusar<65>(stack);
+    }
+    return true;
 }
 
 bool montar_ICMS_ou_ISSQN(fiscal::tributacao_produto const& tributacao, grupo::imposto& imposto,
@@ -70,7 +79,11 @@ bool montar_ICMS_ou_ISSQN(fiscal::tributacao_produto const& tributacao, grupo::i
     return core::visit(
         [&](auto const& classe) {
             if constexpr (std::is_same_v<std::decay_t<decltype(classe)>, fiscal::issqn>) {
-                imposto.ICMS_ou_ISSQN = montar_ISSQN(classe);
+                grupo::ISSQN issqn;
+                if (!montar_ISSQN(classe, issqn, stack)) {
+                    return false;
+                }
+                imposto.ICMS_ou_ISSQN = std::move(issqn);
                 return true;
             } else {
                 grupo::ICMS icms;
@@ -167,6 +180,10 @@ bool montar_imposto(fiscal::produto const& produto, grupo::imposto& imposto, cor
         return false;
     }
     if (auto const importacao = produto.get_tributacao_importacao()) {
+        // A service under ISSQN is not imported: the layout has no II beside it.
+        if (std::holds_alternative<grupo::ISSQN>(imposto.ICMS_ou_ISSQN.base())) {
+            return recusar<65>(stack);
+        }
         imposto.II = montar_II(*importacao);
     }
     if (!montar_PIS_COFINS(produto.get_tributacao_pis_cofins(), imposto, stack)) {

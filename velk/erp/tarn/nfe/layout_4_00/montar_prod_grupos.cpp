@@ -103,14 +103,25 @@ bool montar_DI(fiscal::declaracao_importacao const& declaracao, grupo::DI& di, c
     return true;
 }
 
-grupo::detExport montar_detExport(fiscal::grupo_exportacao const& exportacao)
+// The indirect export names the note received for export, its registration
+// and the quantity exported: all three or none. An entry without any of them
+// has no exportInd; one with only some of them is an incomplete reference to
+// that note, refused with code 58 and the first tag missing.
+bool montar_detExport(fiscal::grupo_exportacao const& exportacao, grupo::detExport& detExport,
+                      core::result::stack& stack)
 {
-    grupo::detExport detExport;
     detExport.nDraw = exportacao.get_numero_ato_concessorio_drawback();
-    detExport.exportInd = grupo::exportInd{exportacao.get_numero_registro_exportacao(),
-                                           exportacao.get_chave_acesso_nfe_recebida(),
-                                           exportacao.get_quantidade_exportada()};
-    return detExport;
+    grupo::exportInd exportInd{exportacao.get_numero_registro_exportacao(), exportacao.get_chave_acesso_nfe_recebida(),
+                               exportacao.get_quantidade_exportada()};
+    if (!exportInd.nRE && !exportInd.chNFe && !exportInd.qExport) {
+        return true;
+    }
+    if (!exportInd.nRE || !exportInd.chNFe || !exportInd.qExport) {
+        char const* const tag = !exportInd.nRE ? "nRE" : !exportInd.chNFe ? "chNFe" : "qExport";
+        return recusar<58>(stack, std::string("O valor de ") + tag + " é obrigatório");
+    }
+    detExport.exportInd = std::move(exportInd);
+    return true;
 }
 
 grupo::rastro montar_rastro(fiscal::informacoes_rastreabilidade const& lote)

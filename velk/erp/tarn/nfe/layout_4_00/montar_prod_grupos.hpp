@@ -15,8 +15,9 @@ namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 bool montar_DI(fiscal::declaracao_importacao const& declaracao, grupo::DI& di, core::result::stack& stack);
 
-// exportInd is set for every entry, also when all its members are absent.
-grupo::detExport montar_detExport(fiscal::grupo_exportacao const& exportacao);
+// exportInd is written whole or left out: a partly filled one is refused.
+bool montar_detExport(fiscal::grupo_exportacao const& exportacao, grupo::detExport& detExport,
+                      core::result::stack& stack);
 
 grupo::rastro montar_rastro(fiscal::informacoes_rastreabilidade const& lote);
 

@@ -6,9 +6,11 @@ namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
 namespace {
 
-grupo::ISSQNtot montar_ISSQNtot(fiscal::total_nfe_issqn const& issqn)
+// The codes of the special tax regime of services, 1 to 6.
+constexpr std::uint16_t cRegTrib_maior = 6;
+
+bool montar_ISSQNtot(fiscal::total_nfe_issqn const& issqn, grupo::ISSQNtot& tot, core::result::stack& stack)
 {
-    grupo::ISSQNtot tot;
     tot.vServ = issqn.get_valor_servico();
     tot.vBC = issqn.get_valor_base_calculo();
     tot.vISS = issqn.get_valor_iss();
@@ -20,9 +22,13 @@ grupo::ISSQNtot montar_ISSQNtot(fiscal::total_nfe_issqn const& issqn)
     tot.vDescIncond = issqn.get_valor_desconto_incondicionado();
     tot.vDescCond = issqn.get_valor_desconto_condicionado();
     tot.vISSRet = issqn.get_valor_iss_retido();
-    // The code of the special regime is the layout's already.
+    // The code of the special regime is the layout's already; one outside
+    // the layout's is refused as a tax regime is.
     tot.cRegTrib = issqn.get_codigo_regime_tributacao();
-    return tot;
+    if (tot.cRegTrib && (*tot.cRegTrib == 0 || *tot.cRegTrib > cRegTrib_maior)) {
+        return recusar<21>(stack, static_cast<unsigned int>(*tot.cRegTrib));
+    }
+    return true;
 }
 
 grupo::retTrib montar_retTrib(fiscal::total_nfe_retencao_tributos const& retencao)
@@ -38,7 +44,7 @@ grupo::retTrib montar_retTrib(fiscal::total_nfe_retencao_tributos const& retenca
 
 }  // namespace
 
-bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core::result::stack&)
+bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core::result::stack& stack)
 {
     fiscal::total_nfe_icms const icms = total_nfe.get_total_icms();
     grupo::ICMSTot& tot = total.ICMSTot;
@@ -65,8 +71,9 @@ bool montar_total(fiscal::total_nfe const& total_nfe, grupo::total& total, core:
     tot.vOutro = icms.get_total_despesas_acessorias();
     tot.vNF = icms.get_total_da_nota();
     tot.vTotTrib = icms.get_total_dos_tributos_do_item();
-    if (auto const issqn = total_nfe.get_total_issqn()) {
-        total.ISSQNtot = montar_ISSQNtot(*issqn);
+    if (auto const issqn = total_nfe.get_total_issqn();
+        issqn && !montar_ISSQNtot(*issqn, total.ISSQNtot.emplace(), stack)) {
+        return false;
     }
     if (auto const retencao = total_nfe.get_total_nfe_retencao_tributos()) {
         total.retTrib = montar_retTrib(*retencao);

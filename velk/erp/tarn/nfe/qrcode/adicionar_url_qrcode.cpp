@@ -1,8 +1,8 @@
 #include <velk/erp/tarn/nfe/qrcode/adicionar_url_qrcode.hpp>
 
+#include <velk/erp/tarn/nfe/qrcode/detail/partes_qrcode.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/suplemento.hpp>
 #include <velk/erp/tarn/nfe/qrcode/obter_url_qrcode.hpp>
-#include <velk/xml/cdata_section.hpp>
-#include <velk/xml/node.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe {
 
@@ -14,21 +14,12 @@ bool adicionar_url_qrcode(informacoes_adicionais const& informacoes, xml::docume
         return false;
     }
     xml::element* raiz = documento.get_root_element();
-    if (raiz == nullptr) {
+    if (raiz == nullptr || !detail::verificar_url_chave(informacoes, stack)) {
         return false;
     }
-    xml::element suplemento("infNFeSupl");
-    // CDATA keeps the ampersands of version 1.00 as they are.
-    suplemento.append_node(xml::element("qrCode", xml::cdata_section(url)));
-
-    xml::mutable_node_range filhos = raiz->get_node_range();
-    for (auto posicao = filhos.begin(); posicao != filhos.end(); ++posicao) {
-        xml::element const* filho = posicao->as_element();
-        if (filho != nullptr && filho->get_name() == "infNFe") {
-            filhos.insert(posicao, std::move(suplemento));
-            break;
-        }
-    }
+    xml::element& suplemento = detail::suplemento_de(*raiz);
+    detail::por_qrcode(suplemento, url);
+    detail::por_url_chave(suplemento, informacoes.get_url_chave());
     return true;
 }
 

@@ -8,15 +8,15 @@
 
 namespace velk::erp::inline v4::tarn::nfe {
 
-// Puts the QR code address of obter_url_qrcode into the document, as an
-// infNFeSupl with one qrCode (a CDATA section) placed AHEAD of infNFe, the
-// order this function has always written. Use documento_fiscal::gerar_qrcode
-// for a document in the order of the layout (infNFe, infNFeSupl, Signature).
+// Puts the QR code address of obter_url_qrcode and the urlChave of
+// informacoes into the document's infNFeSupl, in the layout's order: the
+// supplement right after infNFe (made there when absent), qrCode first and
+// urlChave last, each a CDATA section replacing any former one.
 //
-// Gives false with obter_url_qrcode's failure on the stack, or for a
-// document without root (nothing on the stack). Gives true also when there
-// is no infNFe and nothing was inserted. An infNFeSupl already present is
-// neither looked for nor replaced.
+// Gives false with a failure on the stack: obter_url_qrcode's, or code 8 of
+// processo_gerar_qrcode_result_category ("url_chave") for an absent urlChave
+// or one that no CDATA section can carry; the document is then unchanged. A
+// document without root gives false with nothing on the stack.
 bool adicionar_url_qrcode(informacoes_adicionais const& informacoes, xml::document& documento,
                           std::string const& id_token, std::string const& csc, core::result::stack& stack);
 

@@ -20,8 +20,8 @@ class informacoes_adicionais {
 public:
     informacoes_adicionais() noexcept;
     // url_qrcode is used as it stands: the QR string follows its last
-    // character directly, so it ends in "?" (or "/" where the state wants it).
-    // An absent url_chave leaves the urlChave tag out.
+    // character directly, so it ends in "?", as the layout requires. The QR
+    // code needs a url_chave beside it (gerar_qrcode refuses an absent one).
     informacoes_adicionais(versao_qrcode versao, core::optional<std::string> const& url_chave,
                            std::string const& url_qrcode);
     informacoes_adicionais(informacoes_adicionais const& other);

@@ -1,6 +1,7 @@
 #include <velk/erp/tarn/nfe/qrcode/obter_url_qrcode.hpp>
 
 #include <velk/core/result/report.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/partes_qrcode.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_100.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_200.hpp>
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
@@ -32,20 +33,21 @@ std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::doc
         return {};
     }
 
-    std::string const digest = fiscal.get_digest_value();
-    std::string qrcode;
-    switch (informacoes.get_versao_qrcode()) {
-    case versao_qrcode::versao_100:
-        qrcode = detail::gerar_qrcode_versao_100(fiscal, digest, id_token, csc, stack);
-        break;
-    case versao_qrcode::versao_200:
-        qrcode = detail::gerar_qrcode_versao_200(fiscal, digest, detail::sem_zeros_a_esquerda(id_token), csc, stack);
-        break;
-    default:
+    if (detail::texto_da_versao(informacoes.get_versao_qrcode()) == nullptr) {
         core::result::fresh<processo_gerar_qrcode_result_category, 4>(
             stack, static_cast<int>(informacoes.get_versao_qrcode()));
         return {};
     }
+    // The page goes into the document with the QR string, in a CDATA section.
+    if (!detail::verificar_pagina(informacoes, stack)) {
+        return {};
+    }
+
+    std::string const digest = fiscal.get_digest_value();
+    std::string const qrcode =
+        informacoes.get_versao_qrcode() == versao_qrcode::versao_100
+            ? detail::gerar_qrcode_versao_100(fiscal, digest, id_token, csc, stack)
+            : detail::gerar_qrcode_versao_200(fiscal, digest, detail::sem_zeros_a_esquerda(id_token), csc, stack);
     return informacoes.get_url_qrcode() + qrcode;
 }
 

@@ -1,5 +1,6 @@
 // Every note of the corpus becomes, through from_nota_fiscal, a document that,
-// signed, the official schema accepts and an independent verifier confirms.
+// signed, the official schema accepts and an independent verifier confirms;
+// and so does a tree with what only other sources fill.
 
 #include "layout_teste.hpp"
 
@@ -13,6 +14,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <ostream>
 #include <string>
 
@@ -23,15 +25,13 @@ using velk::erp::tarn::nfe::versao;
 using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::test::nota_do_corpus;
 
-class corpus : public testing::TestWithParam<nota_do_corpus> {};
-
-TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
+// Signs the document, then checks it against the official schema and an
+// independent verifier; gives its text.
+std::string assinado_e_verificado(documento_fiscal& documento)
 {
     stack report;
-    documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
-    ASSERT_FALSE(report.has_failed()) << report.to_string();
     documento.assinar(velk::test::taxpayer_pkcs12(), report);
-    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    EXPECT_FALSE(report.has_failed()) << report.to_string();
     std::string const texto = velk::test::saved_text(documento.get_xml());
 
     auto const erros =
@@ -41,6 +41,35 @@ TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
     auto const verificacao = velk::test::xmlsec_verify(texto, "http://www.portalfiscal.inf.br/nfe:infNFe",
                                                        velk::test::test_certificates::instance().ca_pem());
     EXPECT_TRUE(verificacao.success) << verificacao.output;
+    return texto;
+}
+
+class corpus : public testing::TestWithParam<nota_do_corpus> {};
+
+TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
+{
+    stack report;
+    documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    assinado_e_verificado(documento);
+}
+
+// The manufacturer's CNPJ, which only other sources than the model fill,
+// beside the CEST of the brake pads of the industry's note.
+TEST(corpus_arvore, the_manufacturers_cnpj_is_CNPJFab)
+{
+    namespace layout = velk::erp::tarn::nfe::layout_4_00;
+    auto const& notas = velk::test::corpus_notas();
+    auto const industria =
+        std::find_if(notas.begin(), notas.end(), [](auto const& nota) { return nota.nome == "nfe_rs_industria"; });
+    ASSERT_NE(industria, notas.end());
+    layout::layout_4_00 arvore = velk::test::arvore_de(industria->criar());
+    arvore.det.at(0).prod.CNPJFab = 92615847000107;
+    stack report;
+    documento_fiscal documento = documento_fiscal::from_xml(velk::test::documento_de(arvore), report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    std::string const texto = assinado_e_verificado(documento);
+    EXPECT_NE(texto.find("<CEST>0107300</CEST><CNPJFab>92615847000107</CNPJFab><CFOP>"), std::string::npos) << texto;
 }
 
 std::string nome_da_nota(testing::TestParamInfo<nota_do_corpus> const& info)

@@ -21,15 +21,6 @@ std::string escrito(layout::layout_4_00 const& arvore, std::string const& tag)
     return velk::test::grupos(velk::test::documento_de(arvore), tag).at(0);
 }
 
-TEST(escrever_arvore, the_manufacturers_cnpj_is_written_as_CNPJ)
-{
-    layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfce_simples());
-    arvore.det[0].prod.CNPJFab = 8931527000141;
-    std::string const det = escrito(arvore, "det");
-    EXPECT_NE(det.find("<NCM>09012100</NCM><CNPJ>08931527000141</CNPJ><CFOP>"), std::string::npos) << det;
-    EXPECT_EQ(det.find("CNPJFab"), std::string::npos);
-}
-
 TEST(escrever_arvore, a_pick_up_place_holds_its_state_registration_as_a_number)
 {
     layout::layout_4_00 arvore = arvore_de(velk::test::nota_nfce_simples());

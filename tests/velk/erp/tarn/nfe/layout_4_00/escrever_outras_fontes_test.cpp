@@ -1,28 +1,18 @@
 // Members of the tree that the fiscal model never fills, written as other
-// sources fill them; and the outputs that the layout of this library writes
-// although the official schema refuses them.
+// sources fill them.
 
 #include "layout_teste.hpp"
 
-#include <support/corpus_notas.hpp>
-#include <support/files.hpp>
 #include <support/notas_fiscais.hpp>
-#include <support/schema.hpp>
-#include <support/test_certificates.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <ostream>
 #include <string>
 
 namespace {
 
 namespace layout = velk::erp::tarn::nfe::layout_4_00;
 namespace grupo = velk::erp::tarn::nfe::layout_4_00::grupo;
-using velk::core::result::stack;
-using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::test::arvore_de;
 using velk::test::documento_de;
 using velk::test::escrito;
@@ -127,134 +117,5 @@ TEST(escrever_outras_fontes, purchase_and_sugar_cane)
               "<vDed>15.30</vDed></deduc><vFor>2250.00</vFor><vTotDed>15.30</vTotDed><vLiqFor>2234.70</vLiqFor>"
               "</cana>");
 }
-
-// The errors of the official schema for a note, signed as it is sent.
-std::string erros_do_esquema(layout::layout_4_00 const& arvore)
-{
-    stack report;
-    documento_fiscal nota = documento_fiscal::from_xml(documento_de(arvore), report);
-    nota.assinar(velk::test::taxpayer_pkcs12(), report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    std::string erros;
-    for (std::string const& erro :
-         velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", nota.get_xml())) {
-        erros += erro + "\n";
-    }
-    return erros;
-}
-
-// An output of this layout that the schema refuses: what is written, and the
-// tag that the schema names.
-struct fora_do_esquema {
-    char const* caso;
-    std::function<void(layout::layout_4_00&)> alterar;
-    char const* grupo;
-    char const* tag;
-    char const* escrito;
-    char const* recusado;
-};
-
-void PrintTo(fora_do_esquema const& caso, std::ostream* saida)
-{
-    *saida << caso.caso;
-}
-
-velk::erp::fiscal::nota_fiscal do_corpus(std::string const& nome)
-{
-    for (auto const& nota : velk::test::corpus_notas()) {
-        if (nota.nome == nome) {
-            return nota.criar();
-        }
-    }
-    ADD_FAILURE() << "no note " << nome;
-    return {};
-}
-
-// A change in the model builds the tree anew; a member that only other
-// sources fill is changed in the tree of the export note.
-
-std::vector<fora_do_esquema> const casos_fora_do_esquema = {
-    {"card without integration type",
-     [](layout::layout_4_00& a) {
-         velk::erp::fiscal::nota_fiscal nota = velk::test::nota_nfce_simples();
-         nota.set_informacoes_pagamento(velk::erp::fiscal::informacoes_pagamento().set_detalhes_pagamento(
-             {velk::erp::fiscal::detalhes_pagamento()
-                  .set_meio_pagamento(velk::erp::fiscal::meio_pagamento::cartao_debito)
-                  .set_valor_pagamento(valor("53.21"))
-                  .set_transacao_tef(velk::erp::fiscal::transacao_tef())}));
-         a = arvore_de(nota);
-     },
-     "pag", "card", "<card><tpIntegra>0</tpIntegra></card>", "tpIntegra"},
-    {"code of special regime of two digits",
-     [](layout::layout_4_00& a) {
-         velk::erp::fiscal::nota_fiscal nota = do_corpus("nfe_sp_servico");
-         velk::erp::fiscal::total_nfe total = nota.get_total_nfe();
-         velk::erp::fiscal::total_nfe_issqn issqn = *total.get_total_issqn();
-         nota.set_total_nfe(total.set_total_issqn(issqn.set_codigo_regime_tributacao(1)));
-         a = arvore_de(nota);
-     },
-     "total", "cRegTrib", "<cRegTrib>01</cRegTrib>", "cRegTrib"},
-    {"place of dispatch",
-     [](layout::layout_4_00& a) {
-         velk::erp::fiscal::nota_fiscal nota = do_corpus("nfe_sp_exportacao");
-         nota.set_comercio_exterior(nota.get_comercio_exterior()->set_local_despacho("RECINTO ALFANDEGADO FRANCA"));
-         a = arvore_de(nota);
-     },
-     "exporta", "xLocDesp", "<xLocDesp>RECINTO ALFANDEGADO FRANCA</xLocDesp>", "xLocDesp"},
-    {"export detail without values",
-     [](layout::layout_4_00& a) {
-         a.det.at(0).prod.detExport = {grupo::detExport{{}, grupo::exportInd{}}};
-     },
-     "det", "detExport", "<detExport><exportInd/></detExport>", "exportInd"},
-    {"observation field as an element",
-     [](layout::layout_4_00& a) {
-         a.infAdic->obsCont = {grupo::observacao{"Pedido", "4500012345"}};
-     },
-     "infAdic", "obsCont", "<obsCont><xCampo>Pedido</xCampo><xTexto>4500012345</xTexto></obsCont>", "xCampo"},
-    {"state of substitution as a number",
-     [](layout::layout_4_00& a) {
-         grupo::ICMSPart part;
-         part.CST = 90;
-         part.UFST = 35;
-         a.det.at(0).imposto.ICMS_ou_ISSQN = grupo::ICMS{part};
-     },
-     "det", "UFST", "<UFST>35</UFST>", "UFST"},
-    {"COFINS by substitution without its value",
-     [](layout::layout_4_00& a) {
-         a.det.at(0).imposto.COFINSST = grupo::COFINSST{grupo::COFINS_aliquota{valor("100"), valor("7.6")}, {}};
-     },
-     "det", "COFINSST", "<COFINSST><vBC>100.00</vBC><pCOFINS>7.6000</pCOFINS></COFINSST>", "COFINSST"},
-    {"COFINS by substitution with a base in units of two places",
-     [](layout::layout_4_00& a) {
-         a.det.at(0).imposto.COFINSST =
-             grupo::COFINSST{grupo::COFINS_quantidade{valor("1.5"), valor("3.6")}, valor("5.4")};
-     },
-     "det", "qBCProd", "<qBCProd>1.50</qBCProd>", "qBCProd"},
-    {"ISSQN before IPI",
-     [](layout::layout_4_00& a) {
-         velk::erp::fiscal::nota_fiscal nota = do_corpus("nfe_sp_servico");
-         velk::test::no_produto(nota, 1, [](velk::erp::fiscal::produto& p) {
-             p.set_tributacao_ipi(velk::erp::fiscal::tributacao_ipi().set_classe_enquadramento_ipi("999").set_cst_ipi(
-                 velk::erp::fiscal::cst_ipi::cst_53));
-         });
-         a = arvore_de(nota);
-     },
-     "det", "IPINT", "<IPINT><CST>53</CST></IPINT>", "IPI"},
-};
-
-class escrever_fora_do_esquema : public testing::TestWithParam<fora_do_esquema> {};
-
-TEST_P(escrever_fora_do_esquema, writes_what_the_layout_says_and_the_schema_refuses_it)
-{
-    fora_do_esquema const& caso = GetParam();
-    layout::layout_4_00 arvore = arvore_de(do_corpus("nfe_sp_exportacao"));
-    caso.alterar(arvore);
-    std::string const todos = velk::test::texto_dos_grupos(documento_de(arvore), caso.grupo);
-    EXPECT_NE(todos.find(caso.escrito), std::string::npos) << todos;
-    std::string const erros = erros_do_esquema(arvore);
-    EXPECT_NE(erros.find(std::string("}") + caso.recusado + "'"), std::string::npos) << erros;
-}
-
-INSTANTIATE_TEST_SUITE_P(casos, escrever_fora_do_esquema, testing::ValuesIn(casos_fora_do_esquema));
 
 }  // namespace

@@ -67,6 +67,46 @@ grupo_tributacao_icms_70 icms70()
     return com_st(grupo_tributacao_icms_70().set_cst(cst_icms::cst_70).set_percentual_reducao_bc_icms(valor("33.33")));
 }
 
+grupo_tributacao_icms_90 icms90()
+{
+    return grupo_tributacao_icms_90().set_cst(cst_icms::cst_90);
+}
+
+tributacao_normal_icms_90 normal_90()
+{
+    return tributacao_normal_icms_90()
+        .set_valor_bc_icms(valor("100.00"))
+        .set_aliquota_icms(valor("18.00"))
+        .set_valor_icms(valor("18.00"));
+}
+
+tributacao_st_icms_90 st_90()
+{
+    return com_st(tributacao_st_icms_90());
+}
+
+grupo_tributacao_icms_900 icms900()
+{
+    return grupo_tributacao_icms_900().set_csosn(csosn::csosn_900);
+}
+
+tributacao_credito_sn_icms_900 credito_900()
+{
+    return tributacao_credito_sn_icms_900().set_aliquota_de_credito_sn(valor("2.56")).set_valor_de_credito_sn(
+        valor("2.56"));
+}
+
+grupo_icms_desonerado desonerado(motivo_desoneracao_icms motivo)
+{
+    return grupo_icms_desonerado().set_valor_icms_desonerado(valor("5.00")).set_motivo(motivo);
+}
+
+// A service under ISSQN with its indicators, as the layout admits them.
+issqn servico()
+{
+    return issqn().set_item_lista_servicos("14.01").set_indicador_iss(1).set_indicador_incentivo(2);
+}
+
 grupo_tributacao_icms_101 icms101()
 {
     return grupo_tributacao_icms_101()
@@ -158,6 +198,14 @@ alteracao processo(unsigned int indicador)
     };
 }
 
+alteracao regime_de_servicos(std::uint16_t codigo)
+{
+    return [codigo](nota_fiscal& nota) {
+        nota.set_total_nfe(nota.get_total_nfe().set_total_issqn(
+            total_nfe_issqn().set_valor_servico(valor("450.00")).set_codigo_regime_tributacao(codigo)));
+    };
+}
+
 char const* const base_icms = "A base de cálculo do ICMS está inválida";
 char const* const aliquota_icms = "A aliquota do ICMS está inválida";
 char const* const valor_icms = "O valor do ICMS está inválido";
@@ -170,8 +218,8 @@ std::vector<recusa> const recusas = {
     {"base mode 4", tributar(icms00().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4))), 29,
      "A modalidade da base de cálculo do ICMS está inválida", "4", {}},
     {"base mode 4 in ICMS90",
-     tributar(grupo_tributacao_icms_90().set_tributacao_normal_icms_90(
-                  tributacao_normal_icms_90().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4)))),
+     tributar(icms90().set_tributacao_normal_icms_90(
+                  normal_90().set_modalidade_bc_icms(bruto<modalidade_bc_icms>(4)))),
      29, "A modalidade da base de cálculo do ICMS está inválida", "4", {}},
     {"substitution base mode 6", tributar(icms10().set_modalidade_bc_icms_st(bruto<modalidade_bc_icms_st>(6))), 30,
      "A modalidade da base de cálculo por ST do ICMS está inválida", "6", {}},
@@ -195,6 +243,29 @@ std::vector<recusa> const recusas = {
                     .set_grupo_icms_desonerado(grupo_icms_desonerado().set_motivo(bruto<motivo_desoneracao_icms>(9))));
      },
      46, "O motivo do ICMS desonerado está invaĺido", "9", {}},
+    // ICMS: codes the group does not admit, with the model's value
+    {"CST 41 in ICMS00", tributar(icms00().set_cst(cst_icms::cst_41)), 32,
+     "O código de tributação do ICMS está inválido", "5", {}},
+    {"CST 00 passed on", tributar(grupo_repasse_icms_st().set_tributacao_icms(cst_icms::cst_00)), 32,
+     "O código de tributação do ICMS está inválido", "0", {}},
+    {"CSOSN 102 in ICMSSN101", tributar(icms101().set_csosn(csosn::csosn_102)), 31,
+     "A situação de operação do simples nacional está inválida", "1", {}},
+    {"CSOSN 900 in ICMSSN202", tributar(com_st(grupo_tributacao_icms_202().set_csosn(csosn::csosn_900))), 31,
+     "A situação de operação do simples nacional está inválida", "9", {}},
+    {"relief for taxis in ICMS20",
+     tributar(icms20().set_grupo_icms_desonerado(desonerado(motivo_desoneracao_icms::taxi))), 46,
+     "O motivo do ICMS desonerado está invaĺido", "0", {}},
+    {"relief of farming in ICMS30",
+     tributar(com_st(grupo_tributacao_icms_30().set_cst(cst_icms::cst_30))
+                  .set_grupo_icms_desonerado(desonerado(motivo_desoneracao_icms::produtor_agropecuario))),
+     46, "O motivo do ICMS desonerado está invaĺido", "2", {}},
+    {"relief of the disabled in ICMS40",
+     tributar(grupo_tributacao_icms_40().set_cst(cst_icms::cst_40).set_grupo_icms_desonerado(
+         desonerado(motivo_desoneracao_icms::deficiente_fisico))),
+     46, "O motivo do ICMS desonerado está invaĺido", "1", {}},
+    {"relief of SUFRAMA in ICMS90",
+     tributar(icms90().set_grupo_icms_desonerado(desonerado(motivo_desoneracao_icms::suframa))), 46,
+     "O motivo do ICMS desonerado está invaĺido", "6", {}},
     // ICMS: required values
     {"ICMS00 without vBC", tributar(icms00().set_valor_bc_icms({})), 47, base_icms, "O valor de vBC é obrigatório", {}},
     {"ICMS00 without pICMS", tributar(icms00().set_aliquota_icms({})), 51, aliquota_icms,
@@ -211,7 +282,8 @@ std::vector<recusa> const recusas = {
      "O percentual de redução da base de cálculo do ICMS está inválido", "O valor de pRedBC é obrigatório", {}},
     {"ICMS20 without vBC, before pICMS", tributar(icms20().set_valor_bc_icms({}).set_aliquota_icms({})), 47, base_icms,
      "O valor de vBC é obrigatório", {}},
-    {"ICMS30 without vICMSST", tributar(com_st(grupo_tributacao_icms_30()).set_valor_icms_st({})), 55, valor_icms,
+    {"ICMS30 without vICMSST",
+     tributar(com_st(grupo_tributacao_icms_30().set_cst(cst_icms::cst_30)).set_valor_icms_st({})), 55, valor_icms,
      "O valor de vICMSST é obrigatório", {}},
     {"ICMS70 without pRedBC", tributar(icms70().set_percentual_reducao_bc_icms({})), 62,
      "O percentual de redução da base de cálculo do ICMS está inválido", "O valor de pRedBC é obrigatório", {}},
@@ -230,6 +302,51 @@ std::vector<recusa> const recusas = {
     {"ICMSSN202 without vICMSST",
      tributar(com_st(grupo_tributacao_icms_202().set_csosn(csosn::csosn_202)).set_valor_icms_st({})), 55, valor_icms,
      "O valor de vICMSST é obrigatório", {}},
+    {"ICMS90 with its own ICMS without vBC",
+     tributar(icms90().set_tributacao_normal_icms_90(normal_90().set_valor_bc_icms({}))), 47, base_icms,
+     "O valor de vBC é obrigatório", {}},
+    {"ICMS90 with its own ICMS without pICMS",
+     tributar(icms90().set_tributacao_normal_icms_90(normal_90().set_aliquota_icms({}))), 51, aliquota_icms,
+     "O valor de pICMS é obrigatório", {}},
+    {"ICMS90 with its own ICMS without vICMS",
+     tributar(icms90().set_tributacao_normal_icms_90(normal_90().set_valor_icms({}))), 55, valor_icms,
+     "O valor de vICMS é obrigatório", {}},
+    {"ICMS90 with substitution without vBCST",
+     tributar(icms90().set_tributacao_st_icms_90(st_90().set_valor_bc_icms_st({}))), 47, base_icms,
+     "O valor de vBCST é obrigatório", {}},
+    {"ICMS90 with modBCST and vBCST alone",
+     tributar(icms90().set_tributacao_st_icms_90(st_90().set_aliquota_icms_st({}).set_valor_icms_st({}))), 51,
+     aliquota_icms, "O valor de pICMSST é obrigatório", {}},
+    {"ICMS90 with substitution without vICMSST",
+     tributar(icms90().set_tributacao_st_icms_90(st_90().set_valor_icms_st({}))), 55, valor_icms,
+     "O valor de vICMSST é obrigatório", {}},
+    {"ICMSSN900 with its own ICMS without vICMS",
+     tributar(icms900().set_tributacao_normal_icms_900(tributacao_normal_icms_900()
+                                                           .set_valor_bc_icms(valor("100.00"))
+                                                           .set_aliquota_icms(valor("18.00")))),
+     55, valor_icms, "O valor de vICMS é obrigatório", {}},
+    {"ICMSSN900 with substitution without pICMSST",
+     tributar(icms900().set_tributacao_st_icms_900(com_st(tributacao_st_icms_900()).set_aliquota_icms_st({}))), 51,
+     aliquota_icms, "O valor de pICMSST é obrigatório", {}},
+    {"ICMSSN900 with pCredSN alone",
+     tributar(icms900().set_tributacao_credito_sn_icms_900(credito_900().set_valor_de_credito_sn({}))), 57,
+     "O valor do crédito do ICMS está inválida", "O valor de vCredICMSSN é obrigatório", {}},
+    {"ICMSSN900 with vCredICMSSN alone",
+     tributar(icms900().set_tributacao_credito_sn_icms_900(credito_900().set_aliquota_de_credito_sn({}))), 56,
+     "A aliquota de crédito do ICMS está inválida", "O valor de pCredSN é obrigatório", {}},
+    // ISSQN: what the layout admits beside it and in its indicators
+    {"ISSQN with import tax",
+     no_primeiro_produto([](produto& p) {
+         p.set_tributacao(servico()).set_tributacao_importacao(
+             tributacao_imposto_importacao().set_valor_bc_imposto_importacao(valor("100.00")));
+     }),
+     65, "O grupo referente a tributação é inválido", nullptr, {}},
+    {"ISSQN indicator 0", tributar(servico().set_indicador_iss(0)), 65, "O grupo referente a tributação é inválido",
+     nullptr, {}},
+    {"ISSQN indicator 8", tributar(servico().set_indicador_iss(8)), 65, "O grupo referente a tributação é inválido",
+     nullptr, {}},
+    {"ISSQN incentive 3", tributar(servico().set_indicador_incentivo(3)), 65,
+     "O grupo referente a tributação é inválido", nullptr, {}},
     // IPI
     {"IPI CST 14", com_ipi(ipi_por_aliquota().set_cst_ipi(bruto<cst_ipi>(14))), 43,
      "O código de tributação do IPI está inválido", "14", {}},
@@ -295,6 +412,8 @@ std::vector<recusa> const recusas = {
      41, "O tipo de integração do pagamento está inválido", "2", {}},
     {"card brand 28", pago_com(cartao(transacao_tef().set_bandeira(bruto<bandeira_cartao>(28)))), 42,
      "A bandeira do cartão usado na transação está inválido", "28", {}},
+    {"regime of services 0", regime_de_servicos(0), 21, "O código do regime tributário está inválido", "0", {}},
+    {"regime of services 7", regime_de_servicos(7), 21, "O código do regime tributário está inválido", "7", {}},
     {"process origin 4", processo(4), 77, "O indicador da origem do processo está inválido", "4", {}},
     {"process origin 8", processo(8), 77, "O indicador da origem do processo está inválido", "8", {}},
     {"process origin 10", processo(10), 77, "O indicador da origem do processo está inválido", "10", {}},

@@ -26,6 +26,7 @@ using velk::test::conversor;
 using velk::test::cpf_interno;
 using velk::test::nome_do_caso;
 using velk::test::recusa;
+using velk::test::valor;
 
 template <class Alterar>
 alteracao na_entrega(Alterar alterar)
@@ -80,6 +81,9 @@ alteracao na_nota_referenciada(Alterar alterar)
         nota.set_nf_referenciadas(referencias);
     };
 }
+
+// The key of a note received for export.
+char const* const chave_recebida = "35240643917258000160550010000318771908172657";
 
 std::vector<recusa> const recusas = {
     {"producer's CNPJ with punctuation",
@@ -141,6 +145,37 @@ std::vector<recusa> const recusas = {
      27, "O tipo de intermediação do transporte está inválido", "3", {}},
     {"type of issue", [](nota_fiscal& n) { n.set_tipo_emissao(static_cast<tipo_emissao>(8)); }, 45,
      "O tipo de emissão está inválido", "8", {}},
+    {"contingency time without its reason",
+     [](nota_fiscal& n) { n.set_data_contingencia(velk::test::horario_brasilia(2024, 5, 14, 8, 0, 5)); }, 45,
+     "O tipo de emissão está inválido", "0", {}},
+    {"contingency reason without its time, with the type of issue",
+     [](nota_fiscal& n) {
+         n.set_tipo_emissao(tipo_emissao::contingencia_svc_an)
+             .set_justificativa_entrada_contingencia("Falha de comunicação com a SEFAZ");
+     },
+     45, "O tipo de emissão está inválido", "5", {}},
+    {"key ending in a letter",
+     [](nota_fiscal& n) { n.set_chave_44_digitos("3524050893152700014155001000000721130417625X"); }, 58,
+     "A chave de acesso da nota fiscal está inválida", "3524050893152700014155001000000721130417625X", {}},
+    {"indirect export without its registration",
+     no_produto_importado([](produto& p) {
+         p.set_grupo_exportacao({grupo_exportacao().set_chave_acesso_nfe_recebida(chave_recebida)});
+     }),
+     58, "A chave de acesso da nota fiscal está inválida", "O valor de nRE é obrigatório", {}},
+    {"indirect export without the note received",
+     no_produto_importado([](produto& p) {
+         p.set_grupo_exportacao(
+             {grupo_exportacao().set_numero_registro_exportacao(240001234567).set_quantidade_exportada(valor("1"))});
+     }),
+     58, "A chave de acesso da nota fiscal está inválida", "O valor de chNFe é obrigatório", {}},
+    {"indirect export without its quantity",
+     no_produto_importado([](produto& p) {
+         p.set_grupo_exportacao({grupo_exportacao()
+                                     .set_numero_ato_concessorio_drawback(20240003817)
+                                     .set_numero_registro_exportacao(240001234567)
+                                     .set_chave_acesso_nfe_recebida(chave_recebida)});
+     }),
+     58, "A chave de acesso da nota fiscal está inválida", "O valor de qExport é obrigatório", {}},
     {"key of 43 characters",
      [](nota_fiscal& n) { n.set_chave_44_digitos("3524050893152700014155001000000721130417625"); }, 58,
      "A chave de acesso da nota fiscal está inválida", "3524050893152700014155001000000721130417625", {}},
@@ -164,6 +199,8 @@ std::vector<recusa> const recusas = {
      "O código de IBGE está inválido", "São Paulo", {conversor}},
     {"model", [](nota_fiscal& n) { n.set_modelo_emissao("A"); }, 71, "O modelo de emissão está inválido", "A",
      {conversor}},
+    {"model of another document", [](nota_fiscal& n) { n.set_modelo_emissao("57"); }, 71,
+     "O modelo de emissão está inválido", "57", {}},
     {"series longer than 16 characters", [](nota_fiscal& n) { n.set_serie("00000000000000001"); }, 72,
      "A série é inválida", "00000000000000001", {conversor}},
     {"issuer's phone with blanks", no_emitente([](emitente& e) { e.set_telefone("19 3234 5678"); }), 73,

@@ -16,6 +16,7 @@
 #include <openssl/crypto.h>
 
 #include <cstdlib>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -49,8 +50,8 @@ std::vector<corpus_case> const corpus = {
      "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C", "http://consulta.teste/qrcode?"},
     {"online, production, CNPJ, one zero", {.cuf = 41, .tp_amb = 1, .destinatario = dest{"CNPJ", "11222333000181"}},
      "012345", "12345", "F00DFACE1234567890ABCDEF1234567890AB", "http://www.fazenda.pr.gov.br/nfce/qrcode?"},
-    {"offline, homologation, no consumer, token of zeros", {.cuf = 41, .contingencia_offline = true}, "000000",
-     "000000", "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
+    {"offline, homologation, no consumer, token with inner zeros", {.cuf = 41, .contingencia_offline = true}, "010200",
+     "10200", "5E2A9C7B1D4F6083A2C5E7B9D1F3A5C7E9B1", ""},
     {"offline, production, foreigner, day 09",
      {.cuf = 43, .tp_amb = 1, .contingencia_offline = true, .dh_emi = "2024-11-09T07:05:00-03:00",
       .destinatario = dest{"idEstrangeiro", "AB1234567"}, .vnf = "1234.56", .vicms = "12.34"},
@@ -58,7 +59,8 @@ std::vector<corpus_case> const corpus = {
     {"offline, homologation, CPF, last day, Noronha",
      {.cuf = 26, .contingencia_offline = true, .dh_emi = "2024-12-31T23:59:59-02:00",
       .destinatario = dest{"CPF", "98765432100"}, .vnf = "0.50", .vicms = "0.09"},
-     "900000", "900000", "csc-em-minusculas-0123456789abcdefghi", "http://app.sefaz.es.gov.br/ConsultaNFCe/"},
+     "900000", "900000", "csc-em-minusculas-0123456789abcdefghi",
+     "http://app.sefaz.es.gov.br/ConsultaNFCe/qrcode.aspx?"},
     {"online, production, CPF, token of one digit", {.tp_amb = 1, .destinatario = dest{"CPF", "52998224725"}},
      "000009", "9", "1234", "x?"},
 };
@@ -112,7 +114,7 @@ struct failure_case {
     char const* name;
     versao_qrcode version;
     bool offline;
-    char const* token;
+    std::string token;
     char const* csc;
     int code;
     arguments expected;
@@ -130,6 +132,12 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
         {"2.00, 7 characters", versao_200, false, "1234567", csc, 3, {{"value", "1234567"}}},
         {"2.00, empty token", versao_200, true, "", csc, 3, {{"value", ""}}},
         {"2.00, 7 zeros stay 7", versao_200, false, "0000000", csc, 3, {{"value", "0000000"}}},
+        {"2.00, 6 zeros: no CSC has that number", versao_200, true, "000000", csc, 3, {{"value", "000000"}}},
+        {"2.00, one zero", versao_200, false, "0", csc, 3, {{"value", "0"}}},
+        {"1.00, a letter", versao_100, false, "12345A", csc, 3, {{"value", "12345A"}}},
+        {"1.00, a carriage return", versao_100, false, "12345\r", csc, 3, {{"value", "12345\r"}}},
+        {"2.00, a letter", versao_200, false, "0012a", csc, 3, {{"value", "12a"}}},
+        {"2.00, a NUL", versao_200, true, std::string("12\0", 3), csc, 3, {{"value", std::string("12\0", 3)}}},
         {"2.00, 7 digits behind zeros", versao_200, false, "0001234567", csc, 3, {{"value", "1234567"}}},
         {"1.00, empty CSC", versao_100, false, "000001", "", 2, {{"value", ""}}},
         {"2.00, empty CSC", versao_200, true, "000001", "", 2, {{"value", ""}}},
@@ -143,7 +151,10 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
         std::string const url =
             nfe::obter_url_qrcode(informacoes_adicionais(current.version, std::nullopt, "http://pagina?"),
                                   parse_or_fail(velk::test::nfce_texto(fields).texto), current.token, current.csc, s);
-        ASSERT_EQ(s.size(), 1U) << s.to_string();
+        if (s.size() != 1U) {
+            ADD_FAILURE() << "one report expected: " << s.to_string();
+            continue;
+        }
         EXPECT_TRUE(s.get_category() == processo_gerar_qrcode_result_category::instance());
         EXPECT_EQ(s.get_value(), current.code);
         EXPECT_EQ(s.top().get_arguments(), current.expected);
@@ -158,6 +169,71 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
                                                   parse_or_fail(velk::test::nfce_texto({}).texto), "12345", csc, s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_NE(url.find("|12345|"), std::string::npos) << url;
+}
+
+// What the QR string holds goes into the CDATA section of qrCode, and must
+// read back the same and fit the layout's pattern: a page, a consumer's
+// identifier or an amount that could not is refused with code 8, naming the
+// version and the field. A refused page gives no text at all; the others
+// leave the page alone, as every failure of a generator does.
+TEST(obter_url_qrcode, refuses_what_the_qrcode_cannot_carry)
+{
+    using enum versao_qrcode;
+    char const* const csc = "0B4E7A91C2D35F68E1A7B9C04D2F6E83A51C";
+    std::string const page = "http://pagina?";
+    struct {
+        char const* name;
+        versao_qrcode version;
+        nfce_campos fields;
+        std::string page;
+        char const* field;  // null: accepted
+    } const cases[] = {
+        {"page with a carriage return", versao_100, {}, "http://pagina\r?", "url_qrcode"},
+        {"page with a NUL", versao_200, {}, std::string("http://pa\0gina?", 15), "url_qrcode"},
+        {"page with an escape", versao_200, {}, "http://pagina\x1B?", "url_qrcode"},
+        {"page in Latin-1", versao_100, {}, "http://p\xE1gina?", "url_qrcode"},
+        {"page with an overlong slash", versao_200, {}, "http:\xC0\xAF/pagina?", "url_qrcode"},
+        {"page with a surrogate", versao_200, {}, "http://p\xED\xA0\x80gina?", "url_qrcode"},
+        {"page cut inside a character", versao_100, {}, "http://p\xC3", "url_qrcode"},
+        {"page that would end the section", versao_100, {}, "http://pagina?]]>", "url_qrcode"},
+        {"page with accents", versao_200, {}, "http://p\xC3\xA1gina/a\xC3\xA7\xC3\xA3o?", nullptr},
+        {"foreigner with a carriage return", versao_100, {.destinatario = dest{"idEstrangeiro", "AB12&#13;345"}}, page,
+         "identificador_destinatario"},
+        {"foreigner with a sign the QR code has not", versao_100,
+         {.destinatario = dest{"idEstrangeiro", "AB#12345"}}, page, "identificador_destinatario"},
+        {"foreigner of 4 characters", versao_100, {.destinatario = dest{"idEstrangeiro", "AB12"}}, page,
+         "identificador_destinatario"},
+        {"the same foreigner is not shown in 2.00", versao_200, {.destinatario = dest{"idEstrangeiro", "AB#12345"}},
+         page, nullptr},
+        {"total of one place", versao_100, {.vnf = "37.8"}, page, "valor_total"},
+        {"ICMS with a carriage return", versao_100, {.vicms = "0.00&#13;"}, page, "valor_icms"},
+        {"offline total with zeros in front", versao_200, {.contingencia_offline = true, .vnf = "037.80"}, page,
+         "valor_total"},
+        {"online total is not shown in 2.00", versao_200, {.vnf = "37.8"}, page, nullptr},
+    };
+    for (auto const& current : cases) {
+        SCOPED_TRACE(current.name);
+        stack s;
+        std::string const url =
+            nfe::obter_url_qrcode(informacoes_adicionais(current.version, std::nullopt, current.page),
+                                  parse_or_fail(velk::test::nfce_texto(current.fields).texto), "000001", csc, s);
+        if (current.field == nullptr) {
+            EXPECT_FALSE(s.has_failed()) << s.to_string();
+            EXPECT_EQ(url.rfind(current.page, 0), 0U) << url;
+            EXPECT_GT(url.size(), current.page.size());
+            continue;
+        }
+        if (s.size() != 1U) {
+            ADD_FAILURE() << "one report expected: " << s.to_string();
+            continue;
+        }
+        EXPECT_TRUE(s.get_category() == processo_gerar_qrcode_result_category::instance());
+        EXPECT_EQ(s.get_value(), 8);
+        EXPECT_EQ(s.top().get_arguments(),
+                  (arguments{{"url-version", current.version == versao_100 ? "1.00" : "2.00"},
+                             {"url-field", current.field}}));
+        EXPECT_EQ(url, std::string(current.field) == "url_qrcode" ? "" : current.page);
+    }
 }
 
 // The generators on their own, with a digest that is not what the document
@@ -254,7 +330,7 @@ TEST(qrcode_generators, a_hash_that_cannot_be_taken_is_code_6)
     }
 }
 
-TEST(adicionar_url_qrcode, puts_an_infnfesupl_ahead_of_infnfe_each_time)
+TEST(adicionar_url_qrcode, puts_the_supplement_after_infnfe_in_place_of_the_former_one)
 {
     nfce_campos fields;
     velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
@@ -264,25 +340,38 @@ TEST(adicionar_url_qrcode, puts_an_infnfesupl_ahead_of_infnfe_each_time)
     // A failure leaves the tree as it was.
     EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "", s));
     EXPECT_EQ(s.get_value(), 2);
-    EXPECT_EQ(document.get_root_element()->find_child("infNFeSupl"), nullptr);
     velk::xml::document without_root;
     EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes, without_root, "000001", "segredo", s));
+    // The layout has no QR code without its urlChave, nor one a CDATA
+    // section cannot carry.
+    for (auto const& url_chave : {std::optional<std::string>(), std::optional<std::string>("http://cha\rve")}) {
+        s.reset();
+        informacoes_adicionais const sem_chave(versao_qrcode::versao_100, url_chave, "http://p?");
+        EXPECT_FALSE(nfe::adicionar_url_qrcode(sem_chave, document, "000001", "segredo", s));
+        ASSERT_EQ(s.size(), 1U) << s.to_string();
+        EXPECT_EQ(s.get_value(), 8);
+        EXPECT_EQ(s.top().get_arguments(), (arguments{{"url-version", "1.00"}, {"url-field", "url_chave"}}));
+    }
+    EXPECT_EQ(document.get_root_element()->find_child("infNFeSupl"), nullptr);
 
     s.reset();
     ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "segredo", s)) << s.to_string();
     std::string const digest = documento_de_texto(nfce.texto).get_digest_value();
-    std::string const saved = velk::xml::document::save(document, s).to_string();
-    std::string const expected = "<infNFeSupl><qrCode><![CDATA[http://p?" +
+    std::string const expected = "</infNFe><infNFeSupl><qrCode><![CDATA[http://p?" +
                                  velk::test::qrcode_esperado_100(velk::test::entrada_qrcode(fields, nfce, digest),
                                                                  "000001", "segredo") +
-                                 "]]></qrCode></infNFeSupl><infNFe ";
+                                 "]]></qrCode><urlChave><![CDATA[http://chave]]></urlChave></infNFeSupl></NFe>";
+    std::string const saved = velk::xml::document::save(document, s).to_string();
     EXPECT_NE(saved.find(expected), std::string::npos) << saved;
 
-    // The supplement already there is not looked for: a second one comes
-    // ahead, with the text the document now holds.
-    ASSERT_TRUE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "other", s)) << s.to_string();
-    std::string const twice = velk::xml::document::save(document, s).to_string();
-    EXPECT_NE(twice.find(expected.substr(0, expected.size() - 8) + expected), std::string::npos) << twice;
+    // Again, with another urlChave: the QR code the document holds stays, the
+    // supplement is still one.
+    informacoes_adicionais const outra(versao_qrcode::versao_200, std::string("http://outra"), "http://q?");
+    ASSERT_TRUE(nfe::adicionar_url_qrcode(outra, document, "000001", "other", s)) << s.to_string();
+    std::string const again = velk::xml::document::save(document, s).to_string();
+    std::string const replaced = expected.substr(0, expected.find("<urlChave>")) +
+                                 "<urlChave><![CDATA[http://outra]]></urlChave></infNFeSupl></NFe>";
+    EXPECT_NE(again.find(replaced), std::string::npos) << again;
 }
 
 }  // namespace

@@ -17,6 +17,8 @@
 #include <support/sefaz_simulator.hpp>
 #include <support/xml_text.hpp>
 
+#include "status_exchange_teste.hpp"
+
 #include <gtest/gtest.h>
 
 #include <netinet/in.h>
@@ -37,18 +39,7 @@ using velk::core::result::category;
 using velk::core::result::stack;
 using velk::test::sefaz_simulator;
 using texts = std::unordered_map<std::string, std::string>;
-
-constexpr char service_namespace[] = "http://www.portalfiscal.inf.br/nfe/wsdl/NFeStatusServico4";
-constexpr char action[] = "http://www.portalfiscal.inf.br/nfe/wsdl/NFeStatusServico4/nfeStatusServicoNF";
-
-velk::cryptography::pkcs12 taxpayer_bundle()
-{
-    stack result;
-    auto bundle = velk::cryptography::pkcs12::from_byte_array(sefaz_simulator::pki().client_pkcs12(),
-                                                              sefaz_simulator::pki().password(), result);
-    EXPECT_FALSE(result.has_failed()) << result.to_string();
-    return bundle;
-}
+using namespace velk::test::status_exchange;
 
 // Another authority, which neither side trusts, with a client certificate.
 struct stranger_pki {
@@ -70,33 +61,36 @@ struct stranger_pki {
     }
 };
 
-nfe::servico::status_autorizador ready_service(std::chrono::milliseconds timeout = std::chrono::milliseconds(10000))
-{
-    nfe::servico::status_autorizador service;
-    service.set_auth(taxpayer_bundle(), sefaz_simulator::pki().ca_file().string());
-    service.set_timeout(timeout);
-    return service;
-}
+// Files that make the transport fail on the client's side: a server
+// certificate of the simulator's own CA for another host name than the one
+// asked for, and lists of trusted authorities that cannot be read.
+struct misleading_files {
+    std::filesystem::path folder = velk::test::scratch_dir("misleading-" + std::to_string(getpid()));
+    std::vector<std::string> misnamed_server;
+    std::filesystem::path missing_ca = folder / "absent" / "ca.pem";
+    std::filesystem::path ca_without_certificate = folder / "empty-ca.pem";
 
-nfe::web_server_info server_at(std::string const& url, std::string const& prefix = "",
-                               std::string const& header_form = "")
-{
-    nfe::web_server_info server;
-    server.set_endpoint_url(url);
-    server.set_action_url(action);
-    server.set_namespace_url(service_namespace);
-    server.set_namespace_prefix(prefix);
-    server.set_namespace_header(header_form);
-    return server;
-}
+    misleading_files()
+    {
+        velk::tools::pki::issued_certificate const other_host =
+            sefaz_simulator::pki().authority().issue_server({"outro-servidor.example"}, {});
+        velk::test::write_text(folder / "server.pem", other_host.certificate_pem());
+        velk::test::write_text(folder / "server-key.pem", other_host.private_key_pem());
+        misnamed_server = {"--cert", (folder / "server.pem").string(), "--key", (folder / "server-key.pem").string()};
+        velk::test::write_text(ca_without_certificate, "not a certificate\n");
+    }
+    ~misleading_files()
+    {
+        std::error_code ignored;
+        std::filesystem::remove_all(folder, ignored);
+    }
 
-nfe::sefaz_data::requisicao::status_autorizador status_request(nfe::versao versao)
-{
-    nfe::sefaz_data::requisicao::status_autorizador request;
-    request.set_versao(versao);
-    request.set_estado(velk::erp::estado::sp);
-    return request;
-}
+    static misleading_files const& instance()
+    {
+        static misleading_files const made;
+        return made;
+    }
+};
 
 // The envelope the library writes for the request, to compare with what
 // reached the server.
@@ -145,7 +139,7 @@ TEST(status_autorizador_exchange, query_over_mutual_tls_and_what_reached_the_ser
             service.executar(request, server_at(simulator.url(), each.prefix, each.header_form), result);
         ASSERT_FALSE(result.has_failed()) << result.to_string();
         EXPECT_EQ(status.get_codigo_status(), 107);
-        EXPECT_EQ(status.get_motivo(), "Servico em Operacao");
+        EXPECT_EQ(status.get_motivo(), "Serviço em Operação");
         EXPECT_EQ(status.get_data_recebimento().get_utc_offset(), -180);
         EXPECT_EQ(status.get_tempo_medio().value_or(-1), 1);
 
@@ -240,6 +234,11 @@ TEST(status_autorizador_exchange, each_way_the_exchange_fails)
             velk::cryptography::pkcs12::from_byte_array(stranger_pki::instance().client_pkcs12, "x", result);
         service.set_auth(bundle, sefaz_simulator::pki().ca_file().string());
     };
+    auto const trust = [](std::filesystem::path const& ca_file) {
+        return [ca_file](nfe::servico::status_autorizador& service) {
+            service.set_auth(taxpayer_bundle(), ca_file.string());
+        };
+    };
 
     std::string const detail =
         "<soap:Detail xmlns:soap=\"http://www.w3.org/2003/05/soap-envelope\"><erro xmlns=\"urn:velk:sefaz-sim\">"
@@ -253,6 +252,15 @@ TEST(status_autorizador_exchange, each_way_the_exchange_fails)
         {"server certificate not trusted", {},
          [](auto& service) { service.set_auth(taxpayer_bundle(), stranger_pki::instance().ca_file.string()); }, curl,
          20, any_curl_message},
+        {"server certificate for another host name", misleading_files::instance().misnamed_server, unchanged, curl,
+         20, any_curl_message},
+        {"list of trusted authorities missing", {}, trust(misleading_files::instance().missing_ca), curl, 21,
+         any_curl_message},
+        {"list of trusted authorities without a certificate", {},
+         trust(misleading_files::instance().ca_without_certificate), curl, 21, any_curl_message},
+        // Obsolete, and without forward secrecy: recorded traffic could be
+        // read once the server's key leaks.
+        {"server that speaks only TLS 1.1", {"--tls-max", "1.1"}, unchanged, curl, 13, any_curl_message},
         {"no client certificate in the bundle", {},
          [](auto& service) {
              service.set_auth(velk::cryptography::pkcs12(), sefaz_simulator::pki().ca_file().string());
@@ -373,7 +381,7 @@ TEST(status_autorizador_exchange, simulator_answers_a_message_its_schema_refuses
     auto const status = nfe::sefaz_data::resposta::status_autorizador::from_xml(document, result);
     ASSERT_FALSE(result.has_failed()) << result.to_string();
     EXPECT_EQ(status.get_codigo_status(), 215);
-    EXPECT_EQ(status.get_motivo(), "Rejeicao: Falha no schema XML");
+    EXPECT_EQ(status.get_motivo(), "Rejeição: Falha no schema XML");
 }
 
 }  // namespace

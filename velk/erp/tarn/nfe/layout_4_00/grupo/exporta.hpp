@@ -10,7 +10,7 @@ namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 struct exporta {
     std::string UFSaidaPais;
     std::string xLocExporta;
-    core::optional<std::string> xLocDesp;
+    core::optional<std::string> xLocDespacho;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo

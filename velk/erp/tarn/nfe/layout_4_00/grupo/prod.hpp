@@ -22,7 +22,7 @@ struct prod {
     std::vector<std::string> NVE;
     core::optional<std::uint32_t> CEST;
     core::optional<std::string> indEscala;
-    // Written by the leaf of a party's CNPJ, so under the element name "CNPJ".
+    // The manufacturer's CNPJ; the layout admits it only beside a CEST.
     core::optional<std::uint64_t> CNPJFab;
     core::optional<std::string> cBenef;
     core::optional<std::uint16_t> EXTIPI;

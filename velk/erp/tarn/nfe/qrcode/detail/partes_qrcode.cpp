@@ -4,6 +4,7 @@
 #include <velk/core/byte_array.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
 
+#include <algorithm>
 #include <cctype>
 
 namespace velk::erp::inline v4::tarn::nfe::detail {
@@ -13,7 +14,99 @@ namespace {
 constexpr std::size_t digest_hexadecimal_length = 56;  // 28 Base64 characters
 constexpr std::size_t hash_hexadecimal_length = 40;    // 20 bytes of SHA-1
 
+// The length of the UTF-8 sequence that a byte starts: 0 for a byte that
+// starts none (a continuation, the start of an overlong form, beyond
+// U+10FFFF).
+std::size_t tamanho_utf8(unsigned char primeiro)
+{
+    if (primeiro < 0x80) {
+        return 1;
+    }
+    if (primeiro < 0xC2) {
+        return 0;
+    }
+    return primeiro < 0xE0 ? 2 : primeiro < 0xF0 ? 3 : primeiro < 0xF5 ? 4 : 0;
+}
+
+// The code point of the UTF-8 sequence at `posicao`, which moves past it;
+// false for one that is not UTF-8 (overlong, a surrogate, beyond U+10FFFF,
+// cut short).
+bool ler_utf8(std::string const& texto, std::size_t& posicao, char32_t& ponto)
+{
+    std::size_t const tamanho = tamanho_utf8(static_cast<unsigned char>(texto[posicao]));
+    if (tamanho == 0 || posicao + tamanho > texto.size()) {
+        return false;
+    }
+    ponto = static_cast<unsigned char>(texto[posicao]) & (tamanho == 1 ? 0x7F : 0x7F >> tamanho);
+    for (std::size_t i = 1; i < tamanho; ++i) {
+        auto const seguinte = static_cast<unsigned char>(texto[posicao + i]);
+        if ((seguinte & 0xC0) != 0x80) {
+            return false;
+        }
+        ponto = (ponto << 6) | (seguinte & 0x3F);
+    }
+    posicao += tamanho;
+    constexpr char32_t menor[] = {0, 0, 0x80, 0x800, 0x10000};
+    return ponto >= menor[tamanho] && ponto <= 0x10FFFF && (ponto < 0xD800 || ponto > 0xDFFF);
+}
+
 }  // namespace
+
+bool so_digitos(std::string const& texto)
+{
+    return std::all_of(texto.begin(), texto.end(), [](char c) { return c >= '0' && c <= '9'; });
+}
+
+bool cabe_em_cdata(std::string const& texto)
+{
+    if (texto.find("]]>") != std::string::npos) {
+        return false;
+    }
+    for (std::size_t posicao = 0; posicao < texto.size();) {
+        char32_t ponto = 0;
+        if (!ler_utf8(texto, posicao, ponto) || ponto < 0x20 || ponto == 0xFFFE || ponto == 0xFFFF) {
+            return false;
+        }
+    }
+    return true;
+}
+
+char const* texto_da_versao(versao_qrcode versao)
+{
+    switch (versao) {
+    case versao_qrcode::versao_100: return "1.00";
+    case versao_qrcode::versao_200: return "2.00";
+    }
+    return nullptr;
+}
+
+bool recusar_campo(char const* versao_url, char const* campo, core::result::stack& stack)
+{
+    core::result::chain<processo_gerar_qrcode_result_category, 8>(stack, versao_url, campo);
+    return false;
+}
+
+bool verificar_pagina(informacoes_adicionais const& informacoes, core::result::stack& stack)
+{
+    return cabe_em_cdata(informacoes.get_url_qrcode()) ||
+           recusar_campo(texto_da_versao(informacoes.get_versao_qrcode()), "url_qrcode", stack);
+}
+
+bool verificar_url_chave(informacoes_adicionais const& informacoes, core::result::stack& stack)
+{
+    core::optional<std::string> const url_chave = informacoes.get_url_chave();
+    return (url_chave.has_value() && cabe_em_cdata(*url_chave)) ||
+           recusar_campo(texto_da_versao(informacoes.get_versao_qrcode()), "url_chave", stack);
+}
+
+bool valor_do_qrcode(std::string const& valor)
+{
+    std::size_t const ponto = valor.find('.');
+    std::string const inteiro = valor.substr(0, ponto);
+    bool const casas = ponto == std::string::npos || (valor.size() == ponto + 3 && so_digitos(valor.substr(ponto + 1)));
+    return casas && (inteiro == "0" || (!inteiro.empty() && inteiro.size() <= 13 && inteiro.front() != '0' &&
+                                        so_digitos(inteiro)));
+}
 
 std::string hexadecimal(std::string const& texto)
 {

@@ -6,6 +6,7 @@
 #include <velk/core/converter.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/core/result/stack.hpp>
+#include <velk/erp/tarn/nfe/qrcode/informacoes_adicionais.hpp>
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
 
 #include <string>
@@ -30,6 +31,34 @@ bool texto_do_campo(T const& valor, std::string& texto, char const* versao_url, 
     }
     return true;
 }
+
+// Whether every character of a text is an ASCII digit (true for none).
+bool so_digitos(std::string const& texto);
+
+// Whether a text can stand in a CDATA section and be read back the same:
+// UTF-8, no control character (a carriage return comes back as a line feed,
+// a NUL or an escape does not load at all), no character that XML excludes,
+// and no "]]>", which would end the section.
+bool cabe_em_cdata(std::string const& texto);
+
+// The QR version as code 8 names it ("1.00", "2.00"); null for no version.
+char const* texto_da_versao(versao_qrcode versao);
+
+// Pushes code 8 on the stack, naming the version and the field, and gives
+// false: for a value of the document or of the caller that the QR code or
+// the supplement cannot carry.
+bool recusar_campo(char const* versao_url, char const* campo, core::result::stack& stack);
+
+// The consultation page and the urlChave go into CDATA sections as they are;
+// a text that cannot, or for the urlChave no text at all (the layout requires
+// it beside the QR code), is refused with code 8 and the field "url_qrcode"
+// or "url_chave". The version must be a known one.
+bool verificar_pagina(informacoes_adicionais const& informacoes, core::result::stack& stack);
+bool verificar_url_chave(informacoes_adicionais const& informacoes, core::result::stack& stack);
+
+// vNF and vICMS as the QR code carries them: 0, or up to 13 digits without
+// zeros in front, with 2 places or none; as the document's own amounts are.
+bool valor_do_qrcode(std::string const& valor);
 
 // The hexadecimal of the digest of infNFe (Base64 of a SHA-1 value, so 56
 // digits). Another length replaces the stack with code 7 and gives false.

@@ -15,9 +15,10 @@ namespace velk::erp::inline v4::tarn::nfe::detail {
 //   &vNF=<vNF>&vICMS=<vICMS>&digVal=<hex of digest>&cIdToken=<token>&cHashQRCode=<HASH>
 //
 // `digest` is the Base64 DigestValue of infNFe, signed or about to be. The
-// token must have exactly 6 characters and is written as given. Checks run
-// in the order the string is built: a value without text is code 8 (chained
-// on the converter's failure), then the digest's length (code 7), the token
+// token must be exactly 6 digits and is written as given. Checks run in the
+// order the string is built: a value without text, a consumer's identifier
+// or an amount the QR code cannot carry is code 8 (chained on the
+// converter's failure, if any), then the digest's length (code 7), the token
 // (code 3), the CSC (code 2) and the hash (code 6), which replace the stack.
 // Any failure gives an empty string.
 std::string gerar_qrcode_versao_100(sefaz_data::requisicao::documento_fiscal const& documento,

@@ -3,6 +3,8 @@
 #include <velk/core/fatal.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/partes_qrcode.hpp>
 
+#include <algorithm>
+
 namespace velk::erp::inline v4::tarn::nfe::detail {
 
 namespace {
@@ -45,6 +47,10 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
             return {};
         }
         qrcode += "|" + emissao.substr(posicao_dia, 2);
+        if (!valor_do_qrcode(documento.get_valor_total())) {
+            recusar_campo(versao_url, "valor_total", stack);
+            return {};
+        }
         qrcode += "|" + documento.get_valor_total();
         std::string digest_hex;
         if (!digest_hexadecimal(digest, digest_hex, stack)) {
@@ -53,7 +59,10 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
         qrcode += "|" + digest_hex;
     }
 
-    if (id_token.empty() || id_token.size() > id_token_max_length) {
+    // The number of the CSC without zeros in front: 1 to 6 digits, and not
+    // zero, which is no CSC's number.
+    if (id_token.empty() || id_token.size() > id_token_max_length || id_token.front() == '0' ||
+        !so_digitos(id_token)) {
         core::result::fresh<processo_gerar_qrcode_result_category, 3>(stack, id_token);
         return {};
     }

@@ -55,9 +55,10 @@ constexpr std::array<paginas_estado, quantidade_estados> paginas = {{
     {estado::df,
      {"http", "dec.fazenda.df.gov.br", 0, "/ConsultarNFCe.aspx?"},
      {"http", "dec.fazenda.df.gov.br", 0, "/ConsultarNFCe.aspx?"}},
+    // The QR string follows a "?" here too: the layout admits no other form.
     {estado::es,
-     {"http", "app.sefaz.es.gov.br", 0, "/ConsultaNFCe/"},
-     {"http", "homologacao.sefaz.es.gov.br", 0, "/ConsultaNFCe/"}},
+     {"http", "app.sefaz.es.gov.br", 0, "/ConsultaNFCe/qrcode.aspx?"},
+     {"http", "homologacao.sefaz.es.gov.br", 0, "/ConsultaNFCe/qrcode.aspx?"}},
     {estado::go,
      {"http", "nfe.sefaz.go.gov.br", 0, "/nfeweb/sites/nfce/danfeNFCe?"},
      {"http", "homolog.sefaz.go.gov.br", 0, "/nfeweb/sites/nfce/danfeNFCe?"}},

@@ -15,7 +15,7 @@
 namespace velk::erp::inline v4::tarn::nfe::detail {
 
 // The public page to which the QR string is appended as it stands (it ends in
-// "?", or "/" for ES), chosen by environment, state and, for PR only, layout
+// "?", which the layout requires before the QR string), chosen by environment, state and, for PR only, layout
 // version. An environment other than the two known ones gives the empty
 // string and reports nothing. A state without a page (MA in homologation, a
 // number that is no state, PR in a layout it has no page for) replaces the

@@ -64,18 +64,23 @@ public:
     void assinar(cryptography::pkcs12 const& certificado, core::result::stack& stack);
 
     // The consumer QR code of an NFC-e, before signing: puts a qrCode (a CDATA
-    // section with the address of obter_url_qrcode) first in infNFeSupl, in
-    // place of any former one, and keeps it as get_qrcode_value. infNFeSupl
-    // is made, as the last child of NFe, when the tree has none; it stays
-    // even when the QR code then fails. On failure (obter_url_qrcode's) the
-    // value is unchanged. A tree that already has a qrCode keeps its text,
-    // whatever the token, CSC or page: the QR code of a document is made once.
-    // The CSC and its token are used for this call only and not kept.
+    // section with the address of obter_url_qrcode) first in infNFeSupl and
+    // the urlChave of informacoes last, each in place of any former one, and
+    // keeps them as get_qrcode_value and get_url_chave: the layout has no QR
+    // code without its urlChave. infNFeSupl is made right after infNFe when
+    // the tree has none; it stays even when the QR code then fails. On
+    // failure (obter_url_qrcode's, or code 8 with "url_chave" for an absent
+    // urlChave or one no CDATA section can carry) the values are unchanged. A
+    // tree that already has a qrCode keeps its text, whatever the token, CSC
+    // or page: the QR code of a document is made once. The CSC and its token
+    // are used for this call only and not kept.
     void gerar_qrcode(informacoes_adicionais const& informacoes, std::string const& id_token, std::string const& csc,
                       core::result::stack& stack);
-    // The urlChave of infNFeSupl: any former one goes, and the caller's text
-    // (a CDATA section) comes last in infNFeSupl, which is made as above. An
-    // absent url_chave leaves none, and an infNFeSupl that may be empty.
+    // The urlChave of infNFeSupl alone: any former one goes, and the caller's
+    // text (a CDATA section) comes last in infNFeSupl, which is made as above.
+    // An absent url_chave leaves none, and an infNFeSupl that may be empty.
+    // Having no stack, it checks nothing: gerar_qrcode writes and checks the
+    // urlChave itself, and this only replaces it afterwards.
     void adicionar_url_chave(informacoes_adicionais const& informacoes);
 
     chave_acesso get_chave_acesso() const;

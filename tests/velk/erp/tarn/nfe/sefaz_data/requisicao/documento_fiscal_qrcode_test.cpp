@@ -9,6 +9,7 @@
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
 #include <support/xmlsec.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/url_consulta_qrcode.hpp>
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
 #include <velk/xml/node.hpp>
 
@@ -170,31 +171,104 @@ TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_emp
 {
     velk::test::nfce_campos fields;
     documento_fiscal document = documento_de_texto(velk::test::nfce_texto(fields).texto);
+    std::string const chave(url_chave);
 
-    // A failure: the supplement is made, the value stays unset.
+    // Failures: the supplement is made, the values stay unset. The layout has
+    // no QR code without its urlChave, nor a urlChave that does not read
+    // back the same.
+    struct {
+        char const* name;
+        informacoes_adicionais informacoes;
+        char const* token;
+        int code;
+    } const failures[] = {
+        {"short token", informacoes_adicionais(versao_qrcode::versao_100, chave, pagina), "12345", 3},
+        {"no urlChave", informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, pagina), "123456", 8},
+        {"urlChave with a carriage return",
+         informacoes_adicionais(versao_qrcode::versao_200, std::string("http://cha\rve"), pagina), "1", 8},
+        {"urlChave with a control character",
+         informacoes_adicionais(versao_qrcode::versao_200, std::string("http://cha\x7Fve\x01"), pagina), "1", 8},
+    };
+    for (auto const& failure : failures) {
+        SCOPED_TRACE(failure.name);
+        stack s;
+        document.gerar_qrcode(failure.informacoes, failure.token, csc, s);
+        EXPECT_EQ(s.size(), 1U) << s.to_string();
+        EXPECT_EQ(s.has_failed() ? s.get_value() : 0, failure.code);
+        EXPECT_FALSE(document.get_qrcode_value().has_value());
+        EXPECT_FALSE(document.get_url_chave().has_value());
+        ASSERT_NE(document.get_xml().find_child("infNFeSupl"), nullptr);
+        EXPECT_TRUE(child_element_names(*document.get_xml().find_child("infNFeSupl")).empty());
+    }
+
     stack s;
-    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, pagina), "12345", csc, s);
-    ASSERT_EQ(s.size(), 1U);
-    EXPECT_EQ(s.get_value(), 3);
-    EXPECT_FALSE(document.get_qrcode_value().has_value());
-    ASSERT_NE(document.get_xml().find_child("infNFeSupl"), nullptr);
-    EXPECT_TRUE(child_element_names(*document.get_xml().find_child("infNFeSupl")).empty());
-
-    s.reset();
-    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_200, std::nullopt, "http://primeira?"), "1",
-                          csc, s);
+    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_200, chave, "http://primeira?"), "1", csc, s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     std::string const first = *document.get_qrcode_value();
     EXPECT_EQ(first.rfind("http://primeira?p=", 0), 0U) << first;
 
-    // Again, with other values and even a CSC that would fail: the text stays.
-    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::nullopt, "http://segunda?"),
+    // Again, with other values and even a CSC that would fail: the text stays,
+    // the urlChave is the new one.
+    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::string("http://outra"),
+                                                 "http://segunda?"),
                           "999999", "", s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(*document.get_qrcode_value(), first);
     EXPECT_EQ(cdata_of(document.get_xml(), "qrCode"), first);
-    EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")), (std::vector<std::string>{"qrCode"}));
+    EXPECT_EQ(cdata_of(document.get_xml(), "urlChave"), "http://outra");
+    EXPECT_EQ(*document.get_url_chave(), "http://outra");
+    EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")),
+              (std::vector<std::string>{"qrCode", "urlChave"}));
     EXPECT_EQ(child_element_names(document.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
+}
+
+// A document signed before its QR code: the supplement goes between infNFe
+// and the signature, which still holds, since it covers infNFe alone.
+TEST(documento_fiscal_qrcode, a_supplement_made_after_signing_goes_before_the_signature)
+{
+    velk::test::nfce_campos const fields;
+    velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
+    documento_fiscal document = documento_de_texto(nfce.texto);
+    stack s;
+    document.assinar(taxpayer_pkcs12(), s);
+    informacoes_adicionais const informacoes(versao_qrcode::versao_200, std::string(url_chave), pagina);
+    document.gerar_qrcode(informacoes, "000001", csc, s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    velk::test::qrcode_entrada const entrada = velk::test::entrada_qrcode(fields, nfce, document.get_digest_value());
+    expect_signed_nfce(document, pagina + velk::test::qrcode_esperado_200(entrada, "1", csc));
+}
+
+// Each state's own page, from the library's table, in both environments and
+// both versions: what the authority's schema accepts, Espírito Santo's too.
+TEST(documento_fiscal_qrcode, every_state_page_gives_a_qrcode_the_schema_accepts)
+{
+    for (int numero = 0; numero < velk::erp::quantidade_estados; ++numero) {
+        velk::erp::estado const uf = static_cast<velk::erp::estado>(numero);
+        for (int tp_amb : {1, 2}) {
+            for (versao_qrcode const version : {versao_qrcode::versao_100, versao_qrcode::versao_200}) {
+                SCOPED_TRACE(std::string(velk::erp::get_uf(uf)) + (tp_amb == 1 ? " production" : " homologation") +
+                             (version == versao_qrcode::versao_100 ? " 1.00" : " 2.00"));
+                velk::test::nfce_campos fields{.cuf = static_cast<unsigned>(velk::erp::get_codigo_ibge(uf)),
+                                               .uf = velk::erp::get_uf(uf),
+                                               .tp_amb = tp_amb};
+                documento_fiscal document = documento_de_texto(velk::test::nfce_texto(fields).texto);
+                stack s;
+                std::string const page = nfe::detail::obter_url_consulta_qrcode(document, s);
+                if (s.has_failed()) {
+                    EXPECT_TRUE(uf == velk::erp::estado::ma && tp_amb == 2) << s.to_string();
+                    continue;
+                }
+                document.gerar_qrcode(informacoes_adicionais(version, std::string(url_chave), page), "000001", csc,
+                                      s);
+                document.assinar(taxpayer_pkcs12(), s);
+                ASSERT_FALSE(s.has_failed()) << s.to_string();
+                std::string const text = saved_text(document.get_xml());
+                auto const problems = velk::test::validate_against_schema(
+                    velk::test::schema_dir() / "nfe_v4.00.xsd", velk::core::byte_array(text));
+                EXPECT_TRUE(problems.empty()) << problems.front() << "\n" << page;
+            }
+        }
+    }
 }
 
 TEST(documento_fiscal_qrcode, url_chave_replaces_and_removes_the_former_one)
