@@ -16,17 +16,6 @@
 
 namespace velk::test {
 
-// The note with another number, and the key that goes with it.
-inline erp::fiscal::nota_fiscal renumerada(erp::fiscal::nota_fiscal nota, unsigned numero)
-{
-    std::string chave = nota.get_chave_44_digitos();
-    std::string const digitos = std::to_string(numero);
-    chave.replace(25, 9, std::string(9 - digitos.size(), '0') + digitos);
-    chave.resize(43);
-    chave += digito_chave(chave);
-    return nota.set_numero(numero).set_chave_44_digitos(chave);
-}
-
 // The note's document of layout 4.00, with its QR code when it is an NFC-e
 // (version 2.00, the pages of São Paulo), signed by the test taxpayer.
 inline erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal documento_assinado(

@@ -9,6 +9,7 @@
 #include <velk/erp/tarn/nfe/servico/inutilizacao.hpp>
 
 #include "../documentos_teste.hpp"
+#include "servicos_teste.hpp"
 
 #include <support/canned_authority.hpp>
 #include <support/files.hpp>
@@ -32,31 +33,11 @@ using velk::erp::estado;
 using velk::erp::tarn::ambiente;
 using velk::erp::tarn::chave_acesso;
 using velk::erp::tarn::modelo;
+using velk::test::ready;
 using velk::test::report_line;
+using velk::test::server;
 
 constexpr char nfce_key[] = "35240527164983000158650010000482131619382745";
-
-template <class Service>
-Service ready()
-{
-    Service service;
-    stack s;
-    service.set_auth(velk::cryptography::pkcs12::from_byte_array(velk::test::sefaz_simulator::pki().client_pkcs12(),
-                                                                 velk::test::sefaz_simulator::pki().password(), s),
-                     velk::test::sefaz_simulator::pki().ca_file().string());
-    service.set_timeout(std::chrono::seconds(10));
-    return service;
-}
-
-nfe::web_server_info server(std::string const& url, std::string const& header_form = "sem_namespace")
-{
-    nfe::web_server_info info;
-    info.set_endpoint_url(url);
-    info.set_action_url("http://www.portalfiscal.inf.br/nfe/wsdl/Servico4/operacao");
-    info.set_namespace_url("http://www.portalfiscal.inf.br/nfe/wsdl/Servico4");
-    info.set_namespace_header(header_form);
-    return info;
-}
 
 requisicao::lote_autorizacao signed_batch()
 {
