@@ -95,7 +95,7 @@ protected:
                            web_server_info const& servidor, std::vector<std::string> const& valid_names,
                            core::result::stack& result) const;
     // The same for a service that builds its envelope itself.
-    xml::document exchange(detail::soap::message const& request, web_server_info const& servidor,
+    xml::document exchange(tarn::detail::soap::message const& request, web_server_info const& servidor,
                            std::vector<std::string> const& valid_names, core::result::stack& result) const;
 
     // The response read from the result document; code 2 chained when it
