@@ -7,7 +7,9 @@
 #include <openssl/err.h>
 #include <openssl/provider.h>
 
+#include <cstdint>
 #include <mutex>
+#include <string>
 
 namespace velk::cryptography {
 inline namespace v3 {
@@ -48,6 +50,35 @@ bool load_legacy_algorithms()
     return legacy != nullptr;
 }
 
+// The password is checked by a key derived from it in as many rounds as the
+// file says, and OpenSSL runs them all before it can tell a wrong password:
+// about a million rounds a second, so a file that asks 2^31 holds the
+// caller's thread for over half an hour. Certificate files are exported with
+// 1 to 2,048 rounds (OpenSSL, Windows), 10,000 or 100,000 (Java, newer
+// tools); ten million is a hundred times the strongest of these and costs a
+// few seconds at worst, once, when the certificate is loaded.
+constexpr std::int64_t most_mac_rounds = 10'000'000;
+
+// Empty when the file's MAC asks a sane number of rounds (or has no MAC,
+// which OpenSSL then does not check); else what is wrong, for the report.
+std::string excessive_mac_rounds(PKCS12 const* bundle)
+{
+    ASN1_INTEGER const* rounds = nullptr;
+    PKCS12_get0_mac(nullptr, nullptr, nullptr, &rounds, bundle);
+    if (rounds == nullptr) {
+        return {};  // absent: one round
+    }
+    std::int64_t count = 0;
+    if (ASN1_INTEGER_get_int64(&count, rounds) != 1) {
+        detail::take_openssl_errors("");
+        return "número de iterações do MAC acima de " + std::to_string(most_mac_rounds) + ": mais de 64 bits";
+    }
+    if (count <= most_mac_rounds) {
+        return {};  // below one OpenSSL does one round
+    }
+    return "número de iterações do MAC acima de " + std::to_string(most_mac_rounds) + ": " + std::to_string(count);
+}
+
 bool is_wrong_password(unsigned long error)
 {
     return ERR_GET_LIB(error) == ERR_LIB_PKCS12 && ERR_GET_REASON(error) == PKCS12_R_MAC_VERIFY_FAILURE;
@@ -73,6 +104,10 @@ pkcs12 pkcs12::from_byte_array(core::byte_array const& bytes, std::string const&
     detail::openssl_ptr<PKCS12> bundle(d2i_PKCS12(nullptr, &cursor, static_cast<long>(bytes.size())));
     if (bundle == nullptr) {
         core::result::fresh<cryptography_result_category, 1>(stack, detail::take_openssl_errors("d2i_PKCS12"));
+        return {};
+    }
+    if (std::string const excessive = excessive_mac_rounds(bundle.get()); !excessive.empty()) {
+        core::result::fresh<cryptography_result_category, 1>(stack, excessive);
         return {};
     }
     parsed_bundle parsed = parse(bundle.get(), password);

@@ -20,7 +20,8 @@ public:
 
     // Reads the bytes of a PKCS#12 file protected by the password. Bundles in
     // the older export formats (RC2 or 3DES encryption) are read as well.
-    // Fails with code 1 (not a readable bundle: empty, truncated, garbage),
+    // Fails with code 1 (not a readable bundle: empty, truncated, garbage, or
+    // one whose password check asks more than ten million rounds),
     // code 2 (wrong password), code 3 (no certificate or no key inside),
     // code 6 (unsupported key type) or code 7 (key of another certificate).
     static pkcs12 from_byte_array(core::byte_array const& bytes, std::string const& password,

@@ -2,6 +2,7 @@
 
 #include <velk/core/result/report.hpp>
 #include <velk/xml/detail/libxml2_session.hpp>
+#include <velk/xml/detail/namespace_uris.hpp>
 #include <velk/xml/detail/safe_parser.hpp>
 #include <velk/xml/xml_result_category.hpp>
 
@@ -34,6 +35,7 @@ core::byte_array canonicalize(core::byte_array const& xml, canonicalization_para
     if (!document) {
         return {};
     }
+    detail::namespace_uris::escape_for_canonical_form(*document);
     detail::libxml2_session session;
     core::byte_array canonical;
     canonical.reserve(xml.size());

@@ -2,6 +2,7 @@
 
 #include <velk/core/result/report.hpp>
 #include <velk/xml/detail/element_access.hpp>
+#include <velk/xml/detail/namespace_uris.hpp>
 #include <velk/xml/detail/xml_names.hpp>
 #include <velk/xml/node.hpp>
 #include <velk/xml/xml_result_category.hpp>
@@ -178,9 +179,11 @@ bool element::append_namespace(namespace_id const& value, core::result::stack& s
 {
     std::string const& prefix = value.get_prefix();
     // Only the default namespace may be undeclared with an empty URI; the
-    // prefixes "xml" and "xmlns" are reserved.
-    bool const valid = prefix.empty() || (detail::is_valid_local_name(prefix) && prefix != "xml" &&
-                                          prefix != "xmlns" && !value.get_uri().empty());
+    // prefixes "xml" and "xmlns" are reserved. A URI without a scheme would
+    // not read back, nor be signed.
+    bool const valid = (prefix.empty() || (detail::is_valid_local_name(prefix) && prefix != "xml" &&
+                                           prefix != "xmlns" && !value.get_uri().empty())) &&
+                       detail::namespace_uris::problem_of(value.get_uri()).empty();
     if (!valid) {
         core::result::fresh<xml_result_category, 3>(stack, prefix);
         return false;

@@ -55,7 +55,8 @@ public:
     bool append_attribute(attribute const& value, core::result::stack& stack);
     // Fails on a prefix already declared on this element (code 5), or an
     // invalid prefix: not a name, "xml", "xmlns", or a prefix with an empty URI
-    // (code 3). Declaring the element's own prefix sets its namespace.
+    // or a URI without a scheme (code 3). Declaring the element's own prefix
+    // sets its namespace.
     bool append_namespace(namespace_id const& value, core::result::stack& stack);
 
     // Appends a child as the last one. An element child without a namespace

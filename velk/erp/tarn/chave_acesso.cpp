@@ -107,10 +107,11 @@ converter_status chars_converter<erp::tarn::chave_acesso>::make_chars(char* buff
         return emission;
     }
     out += emission_size;
-    if (!put_fixed(out, value.get_codigo_numerico(), 8)) {
+    // The check digit is one digit whatever its value: the key is never
+    // longer than 44, and a digit of 10 or more is no key's digit.
+    if (!put_fixed(out, value.get_codigo_numerico(), 8) || !put_fixed(out, value.get_digito_verificador(), 1)) {
         return converter_status::invalid_value;
     }
-    put_plain(out, value.get_digito_verificador());
     unsigned long const length = static_cast<unsigned long>(out - text);
     if (length > size) {
         size = length;

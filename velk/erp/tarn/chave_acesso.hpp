@@ -58,8 +58,9 @@ private:
 namespace velk::core {
 inline namespace v3 {
 
-// The 44 digits. Needs 44 bytes of room; a field wider than its digits, or an
-// emission type without a digit, has no text. The cnpj field is copied as 14
+// The 44 digits. Needs 44 bytes of room; a field wider than its digits (a
+// check digit above 9 among them), or an emission type without a digit, has
+// no text. The cnpj field is copied as 14
 // bytes: it is expected to hold 14 characters.
 template <>
 struct chars_converter<erp::tarn::chave_acesso> {

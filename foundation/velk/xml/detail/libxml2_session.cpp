@@ -50,7 +50,12 @@ libxml2_session::~libxml2_session()
 void libxml2_session::on_error(void* session, xmlErrorPtr error)
 {
     auto* self = static_cast<libxml2_session*>(session);
-    if (error == nullptr || error->level < XML_ERR_ERROR || self->has_error_) {
+    if (error != nullptr && error->code == XML_WAR_NS_URI) {
+        self->has_doubted_namespace_uri_ = true;
+        return;
+    }
+    if (error == nullptr || self->has_error_ ||
+        (error->level < XML_ERR_ERROR && error->code != XML_WAR_NS_URI_RELATIVE)) {
         return;
     }
     self->has_error_ = true;

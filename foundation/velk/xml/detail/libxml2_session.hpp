@@ -20,8 +20,12 @@ public:
     libxml2_session(libxml2_session const&) = delete;
     libxml2_session& operator=(libxml2_session const&) = delete;
 
-    // Whether an error (not a warning) was reported.
+    // Whether an error was reported. Of the warnings, one counts as an error:
+    // a namespace URI that is not absolute, which no canonical form (and so
+    // no signature) can take. libxml2's verdict that a namespace URI is none
+    // is not taken as given (see namespace_uris) but noted apart.
     bool has_error() const { return has_error_; }
+    bool has_doubted_namespace_uri() const { return has_doubted_namespace_uri_; }
     // The first error: libxml2's message without surrounding blanks, and its
     // line (0 when libxml2 gave none).
     std::string const& get_description() const { return description_; }
@@ -36,6 +40,7 @@ private:
     xmlGenericErrorFunc previous_generic_;
     void* previous_generic_context_;
     bool has_error_ = false;
+    bool has_doubted_namespace_uri_ = false;
     std::string description_;
     int line_ = 0;
 };

@@ -2,6 +2,7 @@
 
 #include <velk/core/result/report.hpp>
 #include <velk/xml/detail/libxml2_session.hpp>
+#include <velk/xml/detail/namespace_uris.hpp>
 #include <velk/xml/xml_result_category.hpp>
 
 #include <libxml/parser.h>
@@ -84,9 +85,17 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
         core::result::fresh<xml_result_category, 2>(stack);
         return nullptr;
     }
-    if (session.has_error() || !parser->wellFormed || !parser->nsWellFormed || !document ||
-        xmlDocGetRootElement(document.get()) == nullptr) {
+    if (session.has_error() || !parser->wellFormed || !document || xmlDocGetRootElement(document.get()) == nullptr ||
+        (!parser->nsWellFormed && !session.has_doubted_namespace_uri())) {
         report_malformed(stack, session, "Document is not well-formed");
+        return nullptr;
+    }
+    // The namespaces are well formed but for URIs libxml2 doubted: judged
+    // again as declared.
+    std::string problem;
+    int line = 0;
+    if (!parser->nsWellFormed && !namespace_uris::check_declared(*document, problem, line)) {
+        core::result::fresh<xml_result_category, 1>(stack, problem, std::to_string(line));
         return nullptr;
     }
     return document;

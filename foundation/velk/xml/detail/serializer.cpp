@@ -1,12 +1,14 @@
 #include <velk/xml/detail/serializer.hpp>
 
 #include <velk/core/result/report.hpp>
+#include <velk/xml/detail/namespace_uris.hpp>
 #include <velk/xml/detail/xml_names.hpp>
 #include <velk/xml/node.hpp>
 #include <velk/xml/xml_result_category.hpp>
 
 #include <array>
 #include <initializer_list>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -65,6 +67,8 @@ private:
     // Gathered in a string, whose appends are inline, and handed over once.
     std::string out_;
     core::result::stack& stack_;
+    // The first declared URI that no parser would read back.
+    std::optional<std::string_view> bad_uri_;
     // Prefix and URI of each declaration in scope, innermost last.
     std::vector<std::pair<std::string_view, std::string_view>> scope_;
 };
@@ -100,6 +104,10 @@ void writer::write_cdata(std::string_view contents)
 
 void writer::write_declaration(std::string_view prefix, std::string_view uri)
 {
+    // A URI that the parser would refuse makes the element fail.
+    if (!uri.empty() && !bad_uri_ && !namespace_uris::problem_of(std::string(uri)).empty()) {
+        bad_uri_ = uri;
+    }
     append(" xmlns");
     if (!prefix.empty()) {
         append(':');
@@ -173,6 +181,10 @@ bool writer::write_element(element const& value)
                 declare_if_needed(mark, attribute_prefix, property.get_namespace_uri());
             }
         }
+    }
+    if (bad_uri_) {
+        core::result::fresh<xml_result_category, 3>(stack_, std::string(*bad_uri_));
+        return false;
     }
     for (attribute const& property : attributes) {
         append(' ');

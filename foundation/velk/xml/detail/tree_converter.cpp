@@ -1,6 +1,7 @@
 #include <velk/xml/detail/tree_converter.hpp>
 
 #include <velk/xml/detail/element_access.hpp>
+#include <velk/xml/detail/namespace_uris.hpp>
 
 #include <libxml/tree.h>
 
@@ -50,16 +51,16 @@ element convert_element(xmlNode const& source)
     contents->local_name = chars(source.name);
     contents->qualified_name = qualified_name(source.ns, source.name);
     if (source.ns != nullptr) {
-        contents->namespace_uri = chars(source.ns->href);
+        contents->namespace_uri = namespace_uris::as_declared(source.ns->href);
     }
     for (xmlNs const* declaration = source.nsDef; declaration != nullptr; declaration = declaration->next) {
-        contents->namespaces.emplace_back(chars(declaration->prefix), chars(declaration->href));
+        contents->namespaces.emplace_back(chars(declaration->prefix), namespace_uris::as_declared(declaration->href));
     }
     for (xmlAttr const* property = source.properties; property != nullptr; property = property->next) {
         attribute& added =
             contents->attributes.emplace_back(qualified_name(property->ns, property->name), attribute_value(*property));
         if (property->ns != nullptr) {
-            added.set_namespace_uri(chars(property->ns->href));
+            added.set_namespace_uri(namespace_uris::as_declared(property->ns->href));
         }
     }
     auto& children = contents->children;

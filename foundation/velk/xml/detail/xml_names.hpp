@@ -6,10 +6,10 @@ namespace velk::xml {
 inline namespace v3 {
 namespace detail {
 
-// Names as the XML namespaces recommendation allows them, checked byte-wise:
-// ASCII letters, digits, "_", "-" and "." (no digit, "-" or "." first), and
-// every byte of a multi-byte UTF-8 character, whose exact class is left to the
-// parser that reads the document back.
+// Names by the XML 1.0 (fifth edition) and namespaces rules, over UTF-8: the
+// very rule libxml2's parser reads names by, so a name the tree writes reads
+// back, a name read from a document writes again, and the canonical form of a
+// signature takes every name the tree holds. Text that is no UTF-8 is no name.
 bool is_valid_local_name(std::string_view name);
 // A local name, or prefix ":" local name.
 bool is_valid_qualified_name(std::string_view name);

@@ -86,6 +86,20 @@ core::byte_array make_legacy_pkcs12(tools::pki::issued_certificate const& issued
     return bytes;
 }
 
+core::byte_array with_mac_iterations(core::byte_array const& bundle, std::uint64_t iterations)
+{
+    unsigned char const* cursor = bundle.data();
+    PKCS12* parsed = d2i_PKCS12(nullptr, &cursor, static_cast<long>(bundle.size()));
+    ASN1_INTEGER const* count = nullptr;
+    PKCS12_get0_mac(nullptr, nullptr, nullptr, &count, parsed);
+    if (count == nullptr) {
+        throw std::runtime_error("bundle without a MAC iteration count");
+    }
+    // OpenSSL hands the count out read-only; the fixture rewrites it in place.
+    ASN1_INTEGER_set_uint64(const_cast<ASN1_INTEGER*>(count), iterations);
+    return to_bytes(parsed);
+}
+
 std::string make_ed25519_pem()
 {
     EVP_PKEY* key = EVP_PKEY_Q_keygen(nullptr, nullptr, "ED25519");

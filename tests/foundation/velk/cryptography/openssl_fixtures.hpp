@@ -8,6 +8,7 @@
 
 #include <openssl/evp.h>
 
+#include <cstdint>
 #include <string>
 
 namespace velk::test {
@@ -18,6 +19,10 @@ core::byte_array make_ec_pkcs12(std::string const& password);
 // The certificate as older tools export it: certificates encrypted with
 // RC2-40, the key with 3DES.
 core::byte_array make_legacy_pkcs12(tools::pki::issued_certificate const& certificate, std::string const& password);
+
+// The bundle with its MAC's iteration count changed, the MAC itself left as
+// it was (so it no longer matches unless the count is the same).
+core::byte_array with_mac_iterations(core::byte_array const& bundle, std::uint64_t iterations);
 
 // An Ed25519 private key as PEM, a key type the library does not accept.
 std::string make_ed25519_pem();

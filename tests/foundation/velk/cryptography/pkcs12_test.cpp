@@ -9,6 +9,7 @@
 
 #include <openssl/x509.h>
 
+#include <cstdint>
 #include <string>
 
 namespace velk::cryptography {
@@ -85,6 +86,35 @@ TEST(pkcs12, refuses_unreadable_bundles_and_wrong_passwords_on_the_stack)
             EXPECT_EQ(stack.to_string().find(bad.password), std::string::npos) << "password leaked: " << bad.name;
         }
     }
+}
+
+TEST(pkcs12, refuses_a_password_check_of_too_many_rounds_before_running_it)
+{
+    // Each row would hold the thread for seconds to hours if the rounds ran.
+    auto const& certificates = test_certificates::instance();
+    struct rounds_case {
+        std::uint64_t iterations;
+        char const* description;
+    };
+    rounds_case const cases[] = {
+        {10'000'001, "número de iterações do MAC acima de 10000000: 10000001"},
+        {2'147'483'647, "número de iterações do MAC acima de 10000000: 2147483647"},
+        {UINT64_MAX, "número de iterações do MAC acima de 10000000: mais de 64 bits"},
+    };
+    for (rounds_case const& current : cases) {
+        core::result::stack stack;
+        pkcs12 const bundle = pkcs12::from_byte_array(
+            velk::test::with_mac_iterations(certificates.pkcs12(), current.iterations), certificates.password(), stack);
+        EXPECT_TRUE(bundle.empty());
+        ASSERT_EQ(stack.size(), 1U) << current.iterations;
+        ASSERT_EQ(stack.get_value(), 1) << stack.to_string();
+        EXPECT_EQ(*stack.top().find_argument("description"), current.description);
+    }
+    // A count within the bound goes on to the password check, which this MAC,
+    // made with another count, fails.
+    core::result::stack stack;
+    pkcs12::from_byte_array(velk::test::with_mac_iterations(certificates.pkcs12(), 1), certificates.password(), stack);
+    EXPECT_EQ(stack.get_value(), 2) << stack.to_string();
 }
 
 TEST(pkcs12, reads_bundles_in_the_older_export_format)

@@ -2,6 +2,7 @@
 #include <support/xml_text.hpp>
 #include <velk/xml/document.hpp>
 #include <velk/xml/node.hpp>
+#include <velk/xml/qualified_name.hpp>
 #include <velk/xml/xml_result_category.hpp>
 
 #include <gtest/gtest.h>
@@ -136,6 +137,105 @@ TEST(document_save, refuses_a_missing_root_and_bad_names)
     stack report;
     EXPECT_FALSE(full.append_node(element("b"), report));
     EXPECT_EQ(report.get_value(), 6);
+
+    // A namespace the parser would refuse, given without a declaration.
+    element relative("a");
+    relative.set_namespace_uri("relative");
+    document holder;
+    holder.append_node(relative, report);
+    report.reset();
+    EXPECT_TRUE(document::save(holder, report).empty());
+    ASSERT_TRUE(report.has_failed());
+    EXPECT_EQ(report.get_value(), 3);
+    EXPECT_EQ(*report.top().find_argument("name"), "relative");
+}
+
+// One rule for names, whoever asks: the parser reading a document, save
+// writing one, an attribute being added, and those who write the tree some
+// other way (the canonical form of a signature) through is_qualified_name.
+TEST(xml_names, the_tree_and_the_parser_take_the_same_names)
+{
+    struct name_case {
+        char const* name;
+        bool valid;
+    };
+    name_case const cases[] = {
+        {"NFe", true},
+        {"a-b.c_1", true},
+        {"p:a", true},
+        {"a\xD1\x9D", true},           // U+045D, left out of the older XML rules
+        {"\xD1\x9D", true},            // the same first
+        {"a\xC2\xB7" "b", true},        // U+00B7 inside
+        {"a\xCC\x80", true},           // a combining mark inside
+        {"a\xE2\x80\xBF", true},      // U+203F inside
+        {"\xF0\x90\x80\x80", true},  // U+10000
+        {"1a", false},
+        {"-a", false},
+        {".a", false},
+        {"a b", false},
+        {"p:", false},
+        {":a", false},
+        {"p:a:b", false},
+        {"p:1a", false},
+        {"\xC2\xB7" "a", false},         // U+00B7 first
+        {"\xCC\x80" "a", false},         // a combining mark first
+        {"a\xC3\x97", false},          // U+00D7, the multiplication sign
+        {"a\xEF\xBF\xBE", false},     // U+FFFE
+        {"\xF3\xB0\x80\x80", false}, // U+F0000
+        {"a\xC3", false},               // cut short
+        {"a\xC0\x80", false},          // overlong
+        {"a\xED\xA0\x80", false},     // a surrogate
+    };
+    testing::internal::CaptureStderr();
+    for (name_case const& item : cases) {
+        std::string const name = item.name;
+        SCOPED_TRACE(name);
+        EXPECT_EQ(is_qualified_name(name), item.valid);
+
+        document loaded;
+        stack report;
+        bool const read = loaded.load(byte_array("<" + name + " xmlns:p=\"urn:p\"/>"), report);
+        EXPECT_EQ(read, item.valid) << report.to_string();
+
+        element root("r");
+        root.append_namespace(namespace_id("p", "urn:p"), report);
+        root.append_node(element(name));
+        document written;
+        written.append_node(root, report);
+        report.reset();
+        byte_array const saved = document::save(written, report);
+        EXPECT_EQ(report.has_failed(), !item.valid) << report.to_string();
+        if (item.valid) {
+            EXPECT_EQ(loaded.get_root_element()->get_qualified_name(), name);
+            document again;
+            ASSERT_TRUE(again.load(saved, report)) << report.to_string();
+        }
+        report.reset();
+        EXPECT_EQ(element("r").append_attribute(attribute(name, "1"), report), item.valid);
+    }
+    EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
+}
+
+TEST(document_round_trip, a_namespace_uri_with_an_ampersand_comes_back_as_written)
+{
+    document read = parse_or_fail("<a xmlns=\"http://x/?a=1&amp;b=2&#38;c=3#f&amp;g\" xmlns:p=\"urn:p&#x26;q\" "
+                                  "p:v=\"&amp;\"><p:b/></a>");
+    ASSERT_NE(read.get_root_element(), nullptr);
+    element const& root = *read.get_root_element();
+    EXPECT_EQ(root.get_namespace_uri(), "http://x/?a=1&b=2&c=3#f&g");
+    ASSERT_EQ(root.get_namespaces().size(), 2u);
+    EXPECT_EQ(root.get_namespaces()[1].get_uri(), "urn:p&q");
+    EXPECT_EQ(root.get_attributes().front().get_namespace_uri(), "urn:p&q");
+    EXPECT_EQ(root.get_attributes().front().get_value(), "&");
+    EXPECT_EQ(root.find_child("b")->get_namespace_uri(), "urn:p&q");
+
+    std::string const saved = saved_text(root);
+    EXPECT_NE(saved.find("<a xmlns=\"http://x/?a=1&amp;b=2&amp;c=3#f&amp;g\" xmlns:p=\"urn:p&amp;q\""),
+              std::string::npos)
+        << saved;
+    document const again = parse_or_fail(saved);
+    ASSERT_NE(again.get_root_element(), nullptr);
+    EXPECT_EQ(dump(*again.get_root_element()), dump(root));
 }
 
 std::string nested(std::size_t depth)
@@ -178,6 +278,11 @@ TEST(document_load, hostile_and_malformed_input_fails_cleanly)
         {"bare DOCTYPE", "<!DOCTYPE a><a/>", 2},
         {"DOCTYPE after the root", "<a/><!DOCTYPE a>", 1},
         {"very deep nesting", nested(100000), 1},
+        // No canonical form takes it, so nothing read so could be signed.
+        {"relative namespace URI", "<a xmlns=\"relative\"/>", 1},
+        {"relative namespace URI with an ampersand", "<a xmlns=\"a&amp;b&amp;c\"/>", 1},
+        {"namespace URI that is none", "<a><b xmlns:p=\"urn:a b&amp;c&amp;d\"/></a>", 1},
+        {"empty namespace URI of a prefix", "<a xmlns:p=\"\"/>", 1},
     };
     testing::internal::CaptureStderr();
     for (auto const& item : cases) {

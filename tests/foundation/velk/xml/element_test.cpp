@@ -126,12 +126,15 @@ TEST(element_namespaces, prefixes_are_checked_and_declared_once)
     namespace_case const cases[] = {
         {"", "urn:nfe", 0}, {"xsi", "urn:xsi", 0}, {"xsi", "urn:other", 5}, {"", "urn:other", 5},
         {"1p", "urn:p", 3}, {"xmlns", "urn:p", 3},  {"xml", "urn:p", 3},     {"p", "", 3},
+        // Neither reads back nor signs: no scheme, no URI at all.
+        {"q", "relative", 3}, {"q", "urn:a b", 3},
     };
     element target("NFe");
     for (auto const& item : cases) {
         stack report;
         EXPECT_EQ(target.append_namespace(namespace_id(item.prefix, item.uri), report), item.code == 0) << item.prefix;
         if (item.code != 0) {
+            ASSERT_TRUE(report.has_failed()) << item.prefix << " " << item.uri;
             EXPECT_EQ(report.get_value(), item.code) << item.prefix;
             EXPECT_NE(report.top().get_arguments().size(), 0u);
         }

@@ -81,12 +81,27 @@ TEST(chave_acesso, writing_needs_44_bytes_and_fields_within_their_digits)
               converter_status::buffer_too_small);
     EXPECT_EQ(size, 44u);
 
-    chave_acesso::data wide;
-    wide.cnpj = "11222333000181";
-    wide.serie = 1000;
-    size = 44;
-    EXPECT_EQ(velk::core::chars_converter<chave_acesso>::make_chars(buffer, size, chave_acesso(std::move(wide))),
-              converter_status::invalid_value);
+    // A field wider than its digits has no text: the key never grows past 44.
+    struct wide_case {
+        char const* why;
+        void (*widen)(chave_acesso::data&);
+    };
+    wide_case const cases[] = {
+        {"series 1000", [](chave_acesso::data& d) { d.serie = 1000; }},
+        {"check digit 10", [](chave_acesso::data& d) { d.digito_verificador = 10; }},
+        {"check digit 11", [](chave_acesso::data& d) { d.digito_verificador = 11; }},
+        {"check digit 65535", [](chave_acesso::data& d) { d.digito_verificador = 65535; }},
+    };
+    for (wide_case const& current : cases) {
+        chave_acesso::data wide;
+        wide.cnpj = "11222333000181";
+        current.widen(wide);
+        char room[64];
+        size = sizeof room;
+        EXPECT_EQ(velk::core::chars_converter<chave_acesso>::make_chars(room, size, chave_acesso(std::move(wide))),
+                  converter_status::invalid_value)
+            << current.why;
+    }
 }
 
 }  // namespace

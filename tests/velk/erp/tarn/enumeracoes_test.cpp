@@ -44,8 +44,6 @@ TEST(enumeracoes, texts_written_with_enough_room)
     EXPECT_EQ(write(tarn::nfe::versao::versao_2_00, 64).second, "2.00");
     EXPECT_EQ(write(tarn::nfe::servidor_emissao::contingencia_rs, 64).second, "contingencia-rs");
     EXPECT_EQ(write(tarn::nfe::servidor_emissao::ambiente_nacional, 64).second, "ambiente nacional");
-    EXPECT_EQ(write(tarn::nfe::detail::tipo_evento::epec, 64).second, "110140");
-    EXPECT_EQ(write(tarn::nfe::detail::tipo_evento::operacao_nao_realizada, 64).second, "210240");
     // The QR code version writes its terminator and counts it.
     EXPECT_EQ(write(tarn::nfe::versao_qrcode::versao_200, 64).second, std::string("200\0", 4));
     EXPECT_EQ(tarn::get_codigo_ambiente(tarn::ambiente::homologacao), 2);
@@ -136,9 +134,29 @@ TEST(enumeracoes, reading_accepts_only_the_listed_texts_and_keeps_the_target_oth
     EXPECT_EQ(read(qrcode, std::string("100\0", 4)), converter_status::invalid_value);
 
     tarn::nfe::detail::tipo_evento evento = tarn::nfe::detail::tipo_evento::cancelamento;
-    EXPECT_EQ(read(evento, "210210"), converter_status::done);
-    EXPECT_EQ(evento, tarn::nfe::detail::tipo_evento::ciencia_operacao);
     EXPECT_EQ(read(evento, "110113"), converter_status::invalid_value);
+    EXPECT_EQ(evento, tarn::nfe::detail::tipo_evento::cancelamento);
+}
+
+TEST(enumeracoes, each_event_type_writes_and_reads_its_own_code)
+{
+    using tarn::nfe::detail::tipo_evento;
+    struct row {
+        tipo_evento type;
+        char const* code;
+    };
+    for (row const& r : {row{tipo_evento::cancelamento, "110111"}, row{tipo_evento::cancelamento_por_substituicao, "110112"},
+                         row{tipo_evento::carta_correcao, "110110"}, row{tipo_evento::epec, "110140"},
+                         row{tipo_evento::confirmacao_operacao, "210200"}, row{tipo_evento::ciencia_operacao, "210210"},
+                         row{tipo_evento::desconhecimento_operacao, "210220"},
+                         row{tipo_evento::operacao_nao_realizada, "210240"}}) {
+        EXPECT_EQ(write(r.type, 6), std::make_pair(converter_status::done, std::string(r.code)));
+        // Read into a target holding another type, so a code read as the
+        // wrong type or not at all shows.
+        tipo_evento read_back = r.type == tipo_evento::cancelamento ? tipo_evento::epec : tipo_evento::cancelamento;
+        EXPECT_EQ(read(read_back, r.code), converter_status::done) << r.code;
+        EXPECT_EQ(read_back, r.type) << r.code;
+    }
 }
 
 }  // namespace

@@ -5,12 +5,14 @@
 #include <velk/cryptography/xml/detail/namespace_scope.hpp>
 #include <velk/cryptography/xml/detail/node_arena.hpp>
 #include <velk/xml/node.hpp>
+#include <velk/xml/qualified_name.hpp>
 
 #include <libxml/parser.h>
 
 #include <cstring>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <string_view>
 
 namespace velk::cryptography {
@@ -97,6 +99,13 @@ private:
         return static_cast<T*>(memory);
     }
     xmlChar* keep(std::string_view text);
+    // A namespace URI as the canonical form writes it. Canonical XML writes
+    // a declaration as an attribute, escaped alike; libxml2's canonicaliser
+    // writes the URI as it finds it, so it is given the escaped text. Of the
+    // characters to escape only "&" can stand in a URI: one with "<", a quote
+    // or a line end is no URI, and the canonicaliser, like save, refuses it
+    // as it comes.
+    xmlChar* keep_uri(std::string_view uri);
     // A parser turns every CR LF and lone CR of unescaped text into LF; the
     // saved text escapes CR in text and attribute values only.
     xmlChar* normalised_line_ends(std::string const& text);
@@ -126,6 +135,18 @@ xmlChar* builder::keep(std::string_view text)
     std::memcpy(copy, text.data(), text.size());
     copy[text.size()] = '\0';
     return reinterpret_cast<xmlChar*>(copy);
+}
+
+xmlChar* builder::keep_uri(std::string_view uri)
+{
+    if (uri.find('&') == std::string_view::npos) {
+        return keep(uri);
+    }
+    std::string escaped;
+    for (char const c : uri) {
+        escaped += c == '&' ? std::string_view("&amp;") : std::string_view(&c, 1);
+    }
+    return keep(escaped);
 }
 
 xmlChar* builder::normalised_line_ends(std::string const& text)
@@ -170,7 +191,7 @@ xmlNs* builder::new_namespace(xmlNode* node, std::string_view prefix, std::strin
 {
     xmlNs* ns = make<xmlNs>();
     ns->type = XML_LOCAL_NAMESPACE;
-    ns->href = keep(uri);
+    ns->href = keep_uri(uri);
     ns->prefix = prefix.empty() ? nullptr : keep(prefix);
     xmlNs** tail = &node->nsDef;
     while (*tail != nullptr) {
@@ -222,8 +243,10 @@ void builder::add_attribute(xmlNode* node, xmlNs* ns, xmlChar const* name, std::
 
 xmlNode* builder::new_element(velk::xml::element const& value)
 {
+    // The tree's own rule: a name it can save is a name the canonical form
+    // takes, and one it would refuse to save is refused here too.
     std::string const& name = value.get_qualified_name();
-    if (xmlValidateQName(chars(name), 0) != 0) {
+    if (!velk::xml::is_qualified_name(name)) {
         invalid_name_ = name;
         return nullptr;
     }

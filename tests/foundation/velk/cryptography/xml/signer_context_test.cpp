@@ -71,6 +71,11 @@ TEST(signer, digests_the_referenced_element_in_its_context)
          parsed("<r xmlns=\"urn:velk:a\">\n  <inf Id=\"A\">\n    <v>1</v>\n  </inf>\n  <supl><q>x</q></supl>\n</r>"),
          "urn:velk:a:inf"},
         {"tree made in memory", built_in_memory, "urn:velk:a:inf"},
+        // Read by the parser, so it must sign as it saves.
+        {"names outside the older XML rules",
+         parsed("<r xmlns=\"urn:velk:a\"><inf Id=\"A\"><v\xD1\x9D>1</v\xD1\x9D><\xD1\x9D p=\"1\"/></inf></r>"),
+         "urn:velk:a:inf"},
+
     };
     pkcs12 const certificate = taxpayer_pkcs12();
     for (context_case const& current : cases) {
@@ -84,14 +89,24 @@ TEST(signer, digests_the_referenced_element_in_its_context)
     }
 }
 
-TEST(signer, refuses_a_tree_whose_element_names_cannot_be_written)
+// What the tree refuses to save, the signer refuses to sign: a tree made in
+// memory can hold it, no tree read from text can.
+TEST(signer, refuses_a_tree_that_cannot_be_written)
 {
-    velk::xml::element tree = parse_element("<r><inf Id=\"A\"><v>1</v></inf></r>");
-    tree.find_child("inf")->append_node(velk::xml::element("nome inválido"));
-    core::result::stack stack;
-    EXPECT_FALSE(append_and_sign(tree, "#A", taxpayer_pkcs12(), stack));
-    EXPECT_EQ(stack.get_value(), 16) << stack.to_string();
-    EXPECT_EQ(contents_of(tree, "DigestValue"), "") << "the template stays unsigned";
+    velk::xml::element bad_name("nome inválido");
+    velk::xml::element relative_namespace("v");
+    relative_namespace.set_namespace_uri("relativo");
+    for (velk::xml::element const& inside : {bad_name, relative_namespace}) {
+        velk::xml::element tree = parse_element("<r><inf Id=\"A\"><v>1</v></inf></r>");
+        tree.find_child("inf")->append_node(inside);
+        core::result::stack stack;
+        EXPECT_TRUE(velk::xml::document::save(document_of(tree), stack).empty());
+        EXPECT_EQ(stack.get_value(), 3) << stack.to_string();
+        stack.reset();
+        EXPECT_FALSE(append_and_sign(tree, "#A", taxpayer_pkcs12(), stack));
+        EXPECT_EQ(stack.get_value(), 16) << stack.to_string();
+        EXPECT_EQ(contents_of(tree, "DigestValue"), "") << "the template stays unsigned";
+    }
 }
 
 }  // namespace

@@ -66,6 +66,45 @@ TEST(assinatura, an_identifier_without_text_ends_the_frame_unsigned)
               "#ID1");
 }
 
+// Every "Algorithm" under the element, in document order, with the name of
+// the element that carries it.
+void collect_algorithms(velk::xml::element const& parent, std::vector<std::string>& found)
+{
+    if (auto const* algorithm = parent.find_attribute("", "Algorithm")) {
+        found.push_back(parent.get_name() + " " + algorithm->get_value());
+    }
+    for (auto const& child : parent.get_node_range()) {
+        if (auto const* nested = child.as_element()) {
+            collect_algorithms(*nested, found);
+        }
+    }
+}
+
+TEST(assinatura, signs_by_the_profile_of_the_layouts_transforms_in_their_order)
+{
+    velk::xml::element root = parse_element("<evento><infEvento Id=\"ID1\"/></evento>");
+    stack s;
+    velk::erp::tarn::nfe::detail::assinar_raiz(
+        root,
+        [](std::string& id, stack&) {
+            id = "ID1";
+            return true;
+        },
+        taxpayer_pkcs12(), s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    std::vector<std::string> algorithms;
+    collect_algorithms(*root.find_child("Signature"), algorithms);
+    // The order of the transforms is part of the layouts' profile, which the
+    // authority holds a signature to as written, whatever a verifier makes of it.
+    EXPECT_EQ(algorithms, (std::vector<std::string>{
+                              "CanonicalizationMethod http://www.w3.org/TR/2001/REC-xml-c14n-20010315",
+                              "SignatureMethod http://www.w3.org/2000/09/xmldsig#rsa-sha1",
+                              "Transform http://www.w3.org/2000/09/xmldsig#enveloped-signature",
+                              "Transform http://www.w3.org/TR/2001/REC-xml-c14n-20010315",
+                              "DigestMethod http://www.w3.org/2000/09/xmldsig#sha1",
+                          }));
+}
+
 TEST(assinatura, identifier_pieces_have_their_widths)
 {
     struct row {

@@ -124,6 +124,17 @@ struct failure_case {
     char const* field;
 };
 
+// The query of a key made from fields, one of them changed.
+velk::xml::element consulta_of_key(void (*change)(chave_acesso::data&), stack& s)
+{
+    chave_acesso::data fields;
+    fields.cnpj = "11222333000181";
+    change(fields);
+    return requisicao::consulta::from_data(chave_acesso(std::move(fields)), nfe::versao::versao_4_00,
+                                           ambiente::producao)
+        .get_xml(s);
+}
+
 TEST(consultas, a_field_without_text_is_named_on_top_of_the_converter_failure)
 {
     auto const invalid_version = static_cast<nfe::versao>(9);
@@ -138,14 +149,10 @@ TEST(consultas, a_field_without_text_is_named_on_top_of_the_converter_failure)
          },
          "consulta", "ambiente"},
         {"consulta, key with a wide series",
-         [&](stack& s) {
-             chave_acesso::data fields;
-             fields.cnpj = "11222333000181";
-             fields.serie = 1000;
-             return requisicao::consulta::from_data(chave_acesso(std::move(fields)), nfe::versao::versao_4_00,
-                                                    ambiente::producao)
-                 .get_xml(s);
-         },
+         [](stack& s) { return consulta_of_key([](chave_acesso::data& d) { d.serie = 1000; }, s); }, "consulta",
+         "chave_acesso"},
+        {"consulta, key with a check digit of 10",
+         [](stack& s) { return consulta_of_key([](chave_acesso::data& d) { d.digito_verificador = 10; }, s); },
          "consulta", "chave_acesso"},
         {"consulta_recibo, version",
          [&](stack& s) {

@@ -269,8 +269,6 @@ TEST(documento_fiscal, digest_of_an_object_without_infnfe_is_a_defect)
                 "Não foi possível obter o valor interno do infNFe na estrutura do documento fiscal");
 }
 
-// --- reading failures ---------------------------------------------------------
-
 std::string const key = "35240611222333000181550010000012341876543210";
 
 // A small NF-e with every element read; `replace` swaps one piece of it.
@@ -289,6 +287,28 @@ std::string small_nfe(std::string const& from = "", std::string const& to = "")
     }
     return text;
 }
+
+TEST(documento_fiscal, digests_whatever_names_it_reads)
+{
+    // U+045D, a letter the parser takes in a name and older XML rules did not.
+    velk::xml::document read;
+    stack s;
+    ASSERT_TRUE(read.load(velk::core::byte_array(small_nfe("<dest>", "<\xD1\x9D a\xD1\x9D=\"1\"/><dest>")), s))
+        << s.to_string();
+    documento_fiscal document = documento_fiscal::from_xml(read, s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    std::string const digest = document.get_digest_value();
+    EXPECT_EQ(digest.size(), 28U);
+
+    document.assinar(taxpayer_pkcs12(), s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_EQ(contents_at(document.get_xml(), "Signature/SignedInfo/Reference/DigestValue"), digest);
+    auto const verified = velk::test::xmlsec_verify(saved_text(document.get_xml()), velk::test::id_infnfe,
+                                                    velk::test::test_certificates::instance().ca_pem());
+    EXPECT_TRUE(verified.success) << verified.output;
+}
+
+// --- reading failures ---------------------------------------------------------
 
 struct reading_failure {
     char const* name;

@@ -1,0 +1,14 @@
+#include <velk/xml/qualified_name.hpp>
+
+#include <velk/xml/detail/xml_names.hpp>
+
+namespace velk::xml {
+inline namespace v3 {
+
+bool is_qualified_name(std::string_view name)
+{
+    return detail::is_valid_qualified_name(name);
+}
+
+}  // namespace v3
+}  // namespace velk::xml

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+namespace velk::xml {
+inline namespace v3 {
+
+// Whether the text is a name an element or attribute of the tree can have:
+// an XML name in UTF-8, optionally behind one prefix and ":". It is the rule
+// document::save writes names by and the parser reads them by, so whoever
+// turns a tree into text some other way (a canonical form for a signature)
+// takes and refuses exactly the names the tree does.
+bool is_qualified_name(std::string_view name);
+
+}  // namespace v3
+}  // namespace velk::xml
