@@ -241,9 +241,10 @@ void run_authorization_step(demo_context& context)
     for (auto const& [documento, nome] : {std::pair{&nfce, "nfce-consulta"}, std::pair{&nfe_55, "nfe-consulta"}}) {
         resposta::consulta const consulta = sefaz.consultar(documento->get_chave_acesso(), nome);
         auto const p = consulta.get_protocolo_nfe();
+        core::optional<unsigned long long> const numero = p ? p->get_numero_protocolo() : std::nullopt;
         demo_context::say("  " + texto(documento->get_chave_acesso()) + ": cStat " +
                           std::to_string(consulta.get_codigo_status()) + " " + consulta.get_motivo() +
-                          ", protocol " + protocolo(p ? p->get_numero_protocolo() : core::optional<unsigned long long>()));
+                          ", protocol " + protocolo(numero));
     }
 
     demo_context::say("disablement of the NFC-e numbers 3 to 9 of series 1");

@@ -57,7 +57,8 @@ TEST(lote_autorizacao, a_new_batch_is_synchronous_empty_and_numbered_zero)
 
     lote.set_versao(static_cast<nfe::versao>(8));
     lote.get_xml(s);
-    EXPECT_EQ(report_line(s), "core-converter 2 / erp-tarn-sefaz-data 9 request-name=lote_autorizacao field-name=versao");
+    EXPECT_EQ(report_line(s),
+              "core-converter 2 / erp-tarn-sefaz-data 9 request-name=lote_autorizacao field-name=versao");
 }
 
 TEST(lote_autorizacao, signed_documents_go_out_as_they_were_signed)

@@ -137,7 +137,8 @@ TEST(respostas, real_answers_read_into_their_objects)
     };
     for (real_answer const& each : answers) {
         SCOPED_TRACE(each.file);
-        velk::xml::document const document = velk::test::parse_or_fail(velk::test::read_text(velk::test::sample(each.file)));
+        velk::xml::document const document =
+            velk::test::parse_or_fail(velk::test::read_text(velk::test::sample(each.file)));
         velk::xml::element const* root = velk::test::first_element_named(*document.get_root_element(), each.element);
         ASSERT_NE(root, nullptr);
         EXPECT_EQ(each.reader(*root), each.expected);
@@ -192,7 +193,8 @@ TEST(respostas, a_protocol_with_its_message_and_its_refusals)
                "0  |   12000000000000000000550000000000001000000000 -"},
               {"no version", "<protNFe><infProt/></protNFe>", "erp-tarn-sefaz-data 4 attribute-name=protNFe/versao"},
               {"unknown version", prot("9.99", authorized), "core-converter 2"},
-              {"protocol number that is no number", prot("4.00", "<nProt>A1</nProt><cStat>100</cStat><xMotivo>x</xMotivo>"),
+              {"protocol number that is no number",
+               prot("4.00", "<nProt>A1</nProt><cStat>100</cStat><xMotivo>x</xMotivo>"),
                "core-converter 2 / erp-tarn-sefaz-data 2 element-name=protNFe/infProt/nProt element-value=A1"},
           });
 }
@@ -232,7 +234,8 @@ TEST(respostas, batch_answers_of_both_kinds_and_their_refusals)
 
     // A protocol that does not read ends the list: the element's form keeps
     // the ones before it, the document's form gives nothing.
-    velk::xml::element const partly = velk::test::parse_element(batch("retEnviNFe", processed + protocol + "<protNFe/>"));
+    velk::xml::element const partly =
+        velk::test::parse_element(batch("retEnviNFe", processed + protocol + "<protNFe/>"));
     stack s;
     EXPECT_EQ(resposta::lote_autorizacao::from_xml(partly, s).get_protocolos().size(), 1u);
     EXPECT_EQ(resposta::lote_autorizacao::from_xml(velk::test::document_of(partly), s).get_codigo_status(), 0u);
