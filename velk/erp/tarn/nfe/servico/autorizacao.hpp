@@ -24,7 +24,8 @@ public:
     // down: servico code 7 (batch version without text), code 9 over the
     // batch's failure (no first document, or it does not read), code 12 or 8
     // (that document's state or environment without text), the batch's own
-    // code 9 (its XML), code 9 (the document refuses the tree), what the
+    // failure (its XML: sefaz_data code 9, or 7), code 9 (the document
+    // refuses the tree), what the
     // exchange reports, code 11 (no result document under
     // nfeAutorizacaoLoteResult or nfeResultMsg), code 2 (answer not
     // readable). Any failure gives a default response.

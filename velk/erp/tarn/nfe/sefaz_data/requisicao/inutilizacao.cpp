@@ -13,10 +13,24 @@ namespace {
 
 constexpr char request_name[] = "inutilizacao";
 
-// Widths of the numbers in the tags: the layout's series has 3 digits at
-// most and a document number 9.
+// What the schema of inutNFe admits: a year of 2 digits, a CNPJ of 14, a
+// series of 3 at most, document numbers from 1 to 9 digits, a justification
+// of 15 to 255 characters.
+constexpr unsigned ano_digits = 2;
+constexpr unsigned cnpj_digits = 14;
 constexpr unsigned serie_max_digits = 3;
 constexpr unsigned numero_max_digits = 9;
+constexpr unsigned justificativa_min_chars = 15;
+constexpr unsigned justificativa_max_chars = 255;
+
+// A document number of the tag: none is 0.
+bool escrever_numero_documento(std::string& destino, unsigned int numero, char const* field_name,
+                               core::result::stack& stack)
+{
+    return numero == 0 ? detail::recusar(request_name, field_name, stack)
+                       : detail::escrever_numero(destino, numero, 1, numero_max_digits, request_name, field_name,
+                                                 stack);
+}
 
 }  // namespace
 
@@ -79,17 +93,18 @@ inutilizacao inutilizacao::from_data(versao versao_layout, ambiente tipo_ambient
     std::string serie_text;
     std::string inicial_text;
     std::string final_text;
+    std::string justificativa_text;
     if (!detail::escrever_ambiente(ambiente_text, tipo_ambiente, request_name, stack) ||
         !detail::escrever_codigo(uf_text, get_codigo_ibge(uf), 2, request_name, "estado", stack) ||
-        !detail::escrever_numero(ano_text, ano, 2, detail::sem_limite, request_name, "ano", stack) ||
-        !detail::escrever_numero(cnpj_text, cnpj, 14, detail::sem_limite, request_name, "cnpj", stack) ||
+        !detail::escrever_numero(ano_text, ano, ano_digits, ano_digits, request_name, "ano", stack) ||
+        !detail::escrever_numero(cnpj_text, cnpj, cnpj_digits, cnpj_digits, request_name, "cnpj", stack) ||
         !detail::escrever_codigo(modelo_text, get_codigo_modelo(modelo_documento), 2, request_name, "modelo",
                                  stack) ||
         !detail::escrever_numero(serie_text, serie, 1, serie_max_digits, request_name, "serie", stack) ||
-        !detail::escrever_numero(inicial_text, numero_inicial, 1, numero_max_digits, request_name,
-                                 "numero_inicial", stack) ||
-        !detail::escrever_numero(final_text, numero_final, 1, numero_max_digits, request_name, "numero_final",
-                                 stack)) {
+        !escrever_numero_documento(inicial_text, numero_inicial, "numero_inicial", stack) ||
+        !escrever_numero_documento(final_text, numero_final, "numero_final", stack) ||
+        !detail::escrever_texto(justificativa_text, justificativa, justificativa_min_chars, justificativa_max_chars,
+                                request_name, "justificativa", stack)) {
         return {};
     }
     std::string id;
@@ -106,7 +121,7 @@ inutilizacao inutilizacao::from_data(versao versao_layout, ambiente tipo_ambient
     inf_inut.append_node(xml::element("serie", xml::text(serie_text)));
     inf_inut.append_node(xml::element("nNFIni", xml::text(inicial_text)));
     inf_inut.append_node(xml::element("nNFFin", xml::text(final_text)));
-    inf_inut.append_node(xml::element("xJust", xml::text(justificativa)));
+    inf_inut.append_node(xml::element("xJust", xml::text(justificativa_text)));
     root.append_node(std::move(inf_inut));
 
     inutilizacao result;

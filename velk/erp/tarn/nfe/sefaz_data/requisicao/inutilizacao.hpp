@@ -27,15 +27,18 @@ public:
     ~inutilizacao();
 
     // Writes inutNFe (NF-e namespace, attribute versao) with infInut and its
-    // Id: "ID", cUF, ano (2 digits or more), CNPJ (14 digits or more), mod,
-    // the series in 3 digits and the two numbers in 9. The tags carry the
-    // numbers without zero-fill (series 1 is "1"). A series above 999 or a
-    // number above 999999999, like any field without text, is code 9
-    // ("inutilizacao" and the field: versao, ambiente, estado, ano, cnpj,
-    // modelo, serie, numero_inicial, numero_final) on top of the converter's
-    // failure, and a default object. The fields are not related to each
-    // other: a range that runs backwards or a four-digit year goes out as
-    // given, for the authority to judge; nor is the justification measured.
+    // Id: "ID", cUF, ano (2 digits), CNPJ (14 digits), mod, the series in 3
+    // digits and the two numbers in 9. The tags carry the series and the
+    // numbers without zero-fill (series 1 is "1"). What the layout's schema
+    // does not admit is refused like a field without text: a year above 99, a
+    // CNPJ above 14 digits, a series above 999, a number 0 or above
+    // 999999999, a justification not of 15 to 255 characters of the layout's
+    // text (no control character, nothing beyond Latin-1, no space at either
+    // end). The refusal is code 9 ("inutilizacao" and the field: versao,
+    // ambiente, estado, ano, cnpj, modelo, serie, numero_inicial,
+    // numero_final, justificativa) on top of the converter's failure, and a
+    // default object. The fields are not related to each other: a range that
+    // runs backwards goes out as given, for the authority to judge.
     static inutilizacao from_data(versao versao_layout, ambiente tipo_ambiente, std::string const& justificativa,
                                   estado uf, modelo modelo_documento, unsigned int ano, unsigned int serie,
                                   unsigned int numero_inicial, unsigned int numero_final, unsigned long long cnpj,

@@ -13,6 +13,11 @@ namespace {
 
 constexpr char request_name[] = "lote_autorizacao";
 
+// What the schema of enviNFe admits: an identifier of 15 digits at most, and
+// from 1 to 50 documents.
+constexpr unsigned id_max_digits = 15;
+constexpr std::size_t max_documentos = 50;
+
 }  // namespace
 
 struct lote_autorizacao::dados {
@@ -115,11 +120,19 @@ xml::element lote_autorizacao::get_xml(core::result::stack& stack) const
         return root;
     }
     std::string id_text;
-    if (!detail::escrever_campo(id_text, dados_->id, request_name, "id_lote", stack)) {
+    if (!detail::escrever_numero(id_text, dados_->id, 1, id_max_digits, request_name, "id_lote", stack)) {
         return root;
     }
     root.append_node(xml::element("idLote", xml::text(id_text)));
     root.append_node(xml::element("indSinc", xml::text(dados_->indicador_sincrono ? "1" : "0")));
+    if (dados_->documentos.empty()) {
+        core::result::fresh<result_category, 7>(stack);
+        return root;
+    }
+    if (dados_->documentos.size() > max_documentos) {
+        core::result::fresh<result_category, 9>(stack, request_name, "documentos");
+        return root;
+    }
     for (xml::element const& documento : dados_->documentos) {
         root.append_node(documento);
     }

@@ -15,9 +15,8 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // the batch's identifier and whether the authority is asked to answer at once
 // (indSinc 1: the protocols come back in the answer) or to give a receipt to
 // query later (0). The batch keeps its own copies of the trees; documento_fiscal
-// objects are made from them when asked for. The authority limits how many
-// documents a batch may hold; that is the authority's to refuse, not checked
-// here.
+// objects are made from them when asked for. Any number of documents may be
+// appended; get_xml writes only what the layout admits (1 to 50).
 class lote_autorizacao {
 public:
     // An empty batch of layout 3.10, identifier 0, synchronous.
@@ -62,9 +61,11 @@ public:
 
     // enviNFe, written anew on each call: attribute versao, the NF-e
     // namespace, idLote (decimal, no zero-fill), indSinc, then the NFe trees
-    // in order. An empty batch gives an enviNFe without NFe, which the schema
-    // refuses: the authority will reject it. A field without text is code 9
-    // ("lote_autorizacao" and versao, id_lote or indicador_sincrono).
+    // in order. A version without text, or an identifier above 15 digits, is
+    // code 9 ("lote_autorizacao" and versao or id_lote) over the converter's
+    // failure; a batch without documents is code 7, one of more than 50
+    // documents code 9 ("lote_autorizacao", "documentos"), both fresh. The
+    // element is then unfinished and not to be sent.
     xml::element get_xml(core::result::stack& stack) const;
 
 private:

@@ -64,18 +64,18 @@ TEST(inutilizacao, writes_the_range_with_its_identifier)
     EXPECT_EQ(pedido.get_numero_final(), 20u);
     EXPECT_EQ(pedido.get_modelo(), modelo::nfe);
 
-    // Nothing relates the fields: a backwards range, a year of four digits
-    // and an NFC-e of production go out as given.
+    // Nothing relates the fields: a backwards range of an NFC-e of
+    // production goes out as given.
     faixa estranha;
-    estranha.ano = 2024;
     estranha.inicial = 999999999;
     estranha.final_ = 1;
     estranha.modelo_documento = modelo::nfce;
     estranha.tipo_ambiente = ambiente::producao;
     estranha.uf = estado::rs;
+    estranha.justificativa = "Inutilização ok";  // 15 characters, 17 bytes
     velk::xml::element const outra = estranha.pedir(s).get_xml();
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    EXPECT_NE(text_of(outra).find("<infInut Id=\"ID4320240000000000019165001999999999000000001\"><tpAmb>1</tpAmb>"),
+    EXPECT_NE(text_of(outra).find("<infInut Id=\"ID43240000000000019165001999999999000000001\"><tpAmb>1</tpAmb>"),
               std::string::npos)
         << text_of(outra);
 }
@@ -122,6 +122,17 @@ TEST(inutilizacao, a_field_without_text_is_named_and_gives_a_default_request)
         {"series of four digits", [](faixa& f) { f.serie = 1000; }, "serie"},
         {"first number of ten digits", [](faixa& f) { f.inicial = 1000000000; }, "numero_inicial"},
         {"last number of ten digits", [](faixa& f) { f.final_ = 1000000000; }, "numero_final"},
+        // What the schema does not admit.
+        {"year of three digits", [](faixa& f) { f.ano = 100; }, "ano"},
+        {"CNPJ of fifteen digits", [](faixa& f) { f.cnpj = 100000000000000ULL; }, "cnpj"},
+        {"first number 0", [](faixa& f) { f.inicial = 0; }, "numero_inicial"},
+        {"justification of 14 characters", [](faixa& f) { f.justificativa = "Numero pulado!"; }, "justificativa"},
+        {"justification ending in a space", [](faixa& f) { f.justificativa += ' '; }, "justificativa"},
+        {"justification with a line break", [](faixa& f) { f.justificativa += "\nlinha"; }, "justificativa"},
+        {"justification beyond Latin-1", [](faixa& f) { f.justificativa += " \u20AC"; }, "justificativa"},
+        {"justification not UTF-8", [](faixa& f) { f.justificativa += "\xC3"; }, "justificativa"},
+        {"justification of 256 characters", [](faixa& f) { f.justificativa = std::string(256, 'x'); },
+         "justificativa"},
     };
     for (row const& each : rows) {
         SCOPED_TRACE(each.caso);

@@ -40,25 +40,54 @@ lote_autorizacao lote_4_00()
     return lote;
 }
 
-TEST(lote_autorizacao, a_new_batch_is_synchronous_empty_and_numbered_zero)
+TEST(lote_autorizacao, writes_only_what_the_layout_admits)
 {
     lote_autorizacao lote;
     EXPECT_TRUE(lote.get_indicador_sincrono());
     EXPECT_EQ(lote.get_versao(), nfe::versao::versao_3_10);
+    EXPECT_EQ(lote.get_id(), 0u);
     stack s;
-    EXPECT_EQ(text_of(lote.get_xml(s)), "<enviNFe xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"3.10\">"
-                                        "<idLote>0</idLote><indSinc>1</indSinc></enviNFe>");
-    lote.set_id(42);
-    lote.set_indicador_sincrono(false);
-    EXPECT_EQ(text_of(lote.get_xml(s)), "<enviNFe xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"3.10\">"
-                                        "<idLote>42</idLote><indSinc>0</indSinc></enviNFe>")
-        << "idLote without zero-fill";
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
-
-    lote.set_versao(static_cast<nfe::versao>(8));
     lote.get_xml(s);
-    EXPECT_EQ(report_line(s),
-              "core-converter 2 / erp-tarn-sefaz-data 9 request-name=lote_autorizacao field-name=versao");
+    EXPECT_EQ(report_line(s), "erp-tarn-sefaz-data 7") << "an enviNFe holds one document at least";
+
+    lote = lote_4_00();
+    s.reset();
+    documento_fiscal const nfce = velk::test::documento_assinado(velk::test::nota_nfce_simples());
+    lote.append_documento_fiscal(nfce, s);
+    lote.set_indicador_sincrono(false);
+    std::string const written = text_of(lote.get_xml(s));
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_EQ(written.substr(0, written.find("<NFe")),
+              "<enviNFe xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"4.00\"><idLote>0</idLote>"
+              "<indSinc>0</indSinc>");
+
+    struct row {
+        char const* caso;
+        unsigned long long id;
+        std::size_t documentos;
+        nfe::versao versao_layout;
+        std::string report;
+    } const rows[] = {
+        {"identifier of 15 digits", 999999999999999ULL, 50, nfe::versao::versao_4_00, ""},
+        {"identifier of 16 digits", 1000000000000000ULL, 1, nfe::versao::versao_4_00,
+         "core-converter 2 / erp-tarn-sefaz-data 9 request-name=lote_autorizacao field-name=id_lote"},
+        {"51 documents", 1, 51, nfe::versao::versao_4_00,
+         "erp-tarn-sefaz-data 9 request-name=lote_autorizacao field-name=documentos"},
+        {"version without text", 1, 1, static_cast<nfe::versao>(8),
+         "core-converter 2 / erp-tarn-sefaz-data 9 request-name=lote_autorizacao field-name=versao"},
+    };
+    for (row const& each : rows) {
+        SCOPED_TRACE(each.caso);
+        lote_autorizacao cheio = lote_4_00();
+        stack r;
+        for (std::size_t count = 0; count < each.documentos; ++count) {
+            cheio.append_documento_fiscal(nfce, r);
+        }
+        cheio.set_id(each.id);
+        cheio.set_versao(each.versao_layout);
+        cheio.get_xml(r);
+        EXPECT_EQ(report_line(r), each.report);
+    }
 }
 
 TEST(lote_autorizacao, signed_documents_go_out_as_they_were_signed)

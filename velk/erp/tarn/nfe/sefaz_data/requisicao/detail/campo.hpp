@@ -48,4 +48,16 @@ bool escrever_numero(std::string& destino, unsigned long long value, unsigned mi
 bool escrever_codigo(std::string& destino, int codigo, unsigned min_digits, char const* request_name,
                      char const* field_name, core::result::stack& stack);
 
+// Appends a free text of the layouts (a justification, a correction): from
+// `min_chars` to `max_chars` characters, none a control character, none
+// beyond the Latin-1 range of the schemas' text type, neither the first nor
+// the last a space. Other text is refused as a value without text:
+// converter failure 2 under the code 9.
+bool escrever_texto(std::string& destino, std::string const& value, unsigned min_chars, unsigned max_chars,
+                    char const* request_name, char const* field_name, core::result::stack& stack);
+
+// The refusal of a value the layout does not admit: converter failure 2 under
+// the code 9 naming the request and the field. Always false.
+bool recusar(char const* request_name, char const* field_name, core::result::stack& stack);
+
 }  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao::detail
