@@ -30,6 +30,19 @@ std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj,
     return std::string(base) + digito_chave(base);
 }
 
+nota_fiscal renumbered(nota_fiscal nota, unsigned number, unsigned code)
+{
+    if (code == 0) {
+        code = nota.get_codigo_nf();
+    }
+    std::string const old_key = nota.get_chave_44_digitos();
+    char middle[19];
+    std::snprintf(middle, sizeof middle, "%09u%.1s%08u", number, old_key.c_str() + 34, code);
+    std::string const key = old_key.substr(0, 25) + middle;
+    nota.set_numero(number).set_codigo_nf(code).set_chave_44_digitos(key + digito_chave(key));
+    return nota;
+}
+
 endereco local(char const* logradouro, char const* numero, char const* bairro, std::uint32_t municipio,
                char const* nome_municipio, char const* uf, std::uint32_t cep)
 {

@@ -26,6 +26,10 @@ char digito_chave(std::string_view primeiros_43);
 std::string chave_acesso(unsigned uf, unsigned ano_mes, std::string const& cnpj, unsigned modelo, unsigned serie,
                          unsigned numero, unsigned codigo, unsigned tp_emis = 1);
 
+// The note with another number and random code (its own when 0), and the
+// key made anew from them.
+erp::fiscal::nota_fiscal renumbered(erp::fiscal::nota_fiscal nota, unsigned number, unsigned code = 0);
+
 // An address in Brazil.
 erp::fiscal::endereco local(char const* logradouro, char const* numero, char const* bairro, std::uint32_t municipio,
                             char const* nome_municipio, char const* uf, std::uint32_t cep);

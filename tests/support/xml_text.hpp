@@ -67,4 +67,21 @@ inline std::vector<std::string> child_element_names(xml::element const& parent)
     return names;
 }
 
+// The first element of that local name in the tree, depth first, the root
+// included; null when there is none.
+inline xml::element const* first_element_named(xml::element const& root, std::string const& name)
+{
+    if (root.get_name() == name) {
+        return &root;
+    }
+    for (xml::node const& child : root.get_node_range()) {
+        if (xml::element const* inner = child.as_element()) {
+            if (xml::element const* found = first_element_named(*inner, name)) {
+                return found;
+            }
+        }
+    }
+    return nullptr;
+}
+
 }  // namespace velk::test

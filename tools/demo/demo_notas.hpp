@@ -7,6 +7,11 @@ namespace velk::demo {
 // The demo's own sales, as an application fills the fiscal model: the issuer
 // is the holder of the demo's throw-away certificate.
 
+// The token and CSC of the QR codes: homologation values made up for the
+// demo; a taxpayer gets its own from its state, and these are no one's.
+inline constexpr char demo_id_token[] = "000001";
+inline constexpr char demo_csc[] = "D3M0C5C0-0000-4A1B-9C2D-5E6F7A8B9C0D";
+
 // An NFC-e of a shop in São Paulo: two items, a card payment and cash with
 // change, in homologation.
 erp::fiscal::nota_fiscal demo_nfce();

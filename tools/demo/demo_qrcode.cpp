@@ -17,11 +17,6 @@ using erp::tarn::nfe::informacoes_adicionais;
 using erp::tarn::nfe::versao_qrcode;
 using erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
 
-// Homologation values made up for the demo: a taxpayer gets its own token
-// and CSC from its state; these are no one's.
-constexpr char id_token[] = "000001";
-constexpr char csc[] = "D3M0C5C0-0000-4A1B-9C2D-5E6F7A8B9C0D";
-
 struct nfce_demo {
     char const* nome;  // in file names
     erp::fiscal::nota_fiscal (*nota)();
@@ -55,7 +50,7 @@ versao_demo const versoes[] = {
 void run_qrcode_step(demo_context& context)
 {
     demo_context::say("QR code step: NFC-e generated from fiscal models, given their QR code and urlChave, signed");
-    context.set_qrcode_secret(id_token, csc);
+    context.set_qrcode_secret(demo_id_token, demo_csc);
 
     core::result::stack stack;
     cryptography::pkcs12 const certificate = make_demo_certificate(stack);
@@ -71,7 +66,7 @@ void run_qrcode_step(demo_context& context)
             check(stack, "consultation page");
 
             informacoes_adicionais const informacoes(versao.versao, std::string(nfce.url_chave), pagina);
-            document.gerar_qrcode(informacoes, id_token, csc, stack);
+            document.gerar_qrcode(informacoes, demo_id_token, demo_csc, stack);
             check(stack, "QR code");
             document.adicionar_url_chave(informacoes);
             std::string const digest = document.get_digest_value();

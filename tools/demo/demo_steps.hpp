@@ -16,5 +16,10 @@ void run_generation_step(demo_context& context);
 // NFC-e generated from notes, with the QR code in versions 1.00 and 2.00,
 // online and in offline contingency, and urlChave; signed.
 void run_qrcode_step(demo_context& context);
+// The road to authorization against the simulator acting as authority: an
+// NFC-e authorized synchronously, an NF-e through its receipt, the query by
+// key of both, a range of numbers disabled and a GTIN query; the documents
+// written beside their protocols.
+void run_authorization_step(demo_context& context);
 
 }  // namespace velk::demo

@@ -209,17 +209,6 @@ std::string disablement(std::string const& cnpj, unsigned series, unsigned first
     return signed_element(parse_element(text), id);
 }
 
-erp::fiscal::nota_fiscal renumbered(erp::fiscal::nota_fiscal nota, unsigned number, unsigned code)
-{
-    if (code == 0) {
-        code = nota.get_codigo_nf();
-    }
-    std::string const old_key = nota.get_chave_44_digitos();
-    std::string const key = old_key.substr(0, 25) + digits(number, 9) + old_key.substr(34, 1) + digits(code, 8);
-    nota.set_numero(number).set_codigo_nf(code).set_chave_44_digitos(key + digito_chave(key));
-    return nota;
-}
-
 std::string unsigned_document(erp::fiscal::nota_fiscal const& nota)
 {
     core::result::stack stack;

@@ -60,9 +60,6 @@ std::string status_query(char const* ambiente = "2");
 std::string disablement(std::string const& cnpj, unsigned series, unsigned first, unsigned last,
                         char const* ambiente = "2");
 
-// The test notes renumbered: another number and random code, the key made
-// anew from them.
-erp::fiscal::nota_fiscal renumbered(erp::fiscal::nota_fiscal nota, unsigned number, unsigned code = 0);
 // The NFe element of a note, as text, before and after signing; signing
 // takes the key from the Id of infNFe.
 std::string unsigned_document(erp::fiscal::nota_fiscal const& nota);

@@ -4,6 +4,7 @@
 
 #include <support/files.hpp>
 #include <support/notas_fiscais.hpp>
+#include <support/partes_de_notas.hpp>
 #include <support/schema.hpp>
 #include <support/test_certificates.hpp>
 #include <support/xml_text.hpp>

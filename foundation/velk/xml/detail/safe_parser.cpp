@@ -94,7 +94,7 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
     // again as declared.
     std::string problem;
     int line = 0;
-    if (!parser->nsWellFormed && !namespace_uris::check_declared(*document, problem, line)) {
+    if (session.has_doubted_namespace_uri() && !namespace_uris::check_declared(*document, problem, line)) {
         core::result::fresh<xml_result_category::malformed>(stack, problem, std::to_string(line));
         return nullptr;
     }

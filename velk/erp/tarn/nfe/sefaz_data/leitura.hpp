@@ -4,6 +4,7 @@
 #include <velk/core/optional.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
+#include <velk/xml/document.hpp>
 #include <velk/xml/element.hpp>
 
 #include <string>
@@ -67,6 +68,39 @@ bool read_optional(xml::element const* found, std::string const& element_name, c
     }
     value = std::move(read);
     return true;
+}
+
+// Reading a required attribute of `elemento` (without prefix):
+// absent replaces the stack with code 4, a text that does not convert replaces
+// it with the converter's failure and chains code 3, both naming
+// `attribute_name` ("retInutNFe/versao").
+template <class T>
+bool read_required_attribute(xml::element const& elemento, std::string const& name, std::string const& attribute_name,
+                             T& value, core::result::stack& stack)
+{
+    xml::attribute const* found = elemento.find_attribute("", name);
+    if (found == nullptr) {
+        core::result::fresh<result_category::atributo_ausente>(stack, attribute_name);
+        return false;
+    }
+    if (!core::read_value(value, found->get_value(), stack)) {
+        core::result::chain<result_category::valor_atributo_invalido>(stack, attribute_name, found->get_value());
+        return false;
+    }
+    return true;
+}
+
+// from_xml of a message given as a document: a document without root is a
+// fresh code 5 and a default message; else the message's from_xml of the root.
+template <class Message>
+Message read_root(xml::document const& document, core::result::stack& stack)
+{
+    xml::element const* root = document.get_root_element();
+    if (root == nullptr) {
+        core::result::fresh<result_category::documento_invalido>(stack);
+        return Message();
+    }
+    return Message::from_xml(*root, stack);
 }
 
 // Looks a path up in the map of find_elements_by_path; null when absent.

@@ -63,8 +63,17 @@ protected:
         return text;
     }
 
+    // The same check when the text itself is not used: false on failure.
+    template <auto const& Code, class T>
+    static bool has_text(T const& value, core::result::stack& result)
+    {
+        checked_text<Code>(value, result);
+        return !result.has_failed();
+    }
+
     // The request's tree as a document; code 9 chained when get_xml fails or
-    // the document refuses the tree.
+    // the document refuses the tree, and given alone for a tree without name
+    // (a request never made).
     template <class Requisicao>
     static xml::document request_document(Requisicao const& requisicao, core::result::stack& result)
     {
@@ -86,7 +95,7 @@ protected:
                            web_server_info const& servidor, std::vector<std::string> const& valid_names,
                            core::result::stack& result) const;
     // The same for a service that builds its envelope itself.
-    xml::document exchange(detail::soap::message const& request, web_server_info const& servidor,
+    xml::document exchange(tarn::detail::soap::message const& request, web_server_info const& servidor,
                            std::vector<std::string> const& valid_names, core::result::stack& result) const;
 
     // The response read from the result document; code 2 chained when it
@@ -99,6 +108,20 @@ protected:
             core::result::chain<servico_result_category::resposta_ilegivel>(result, std::string());
         }
         return resposta;
+    }
+
+    // exchange, then read_response of the result document; a failed exchange
+    // gives a default response.
+    template <class Resposta>
+    Resposta exchange_and_read(xml::document const& request, estado estado, std::string const& versao_dados,
+                               web_server_info const& servidor, std::vector<std::string> const& valid_names,
+                               core::result::stack& result) const
+    {
+        xml::document const answer = exchange(request, estado, versao_dados, servidor, valid_names, result);
+        if (result.has_failed()) {
+            return Resposta();
+        }
+        return read_response<Resposta>(answer, result);
     }
 
 private:

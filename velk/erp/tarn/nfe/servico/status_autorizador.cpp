@@ -2,41 +2,22 @@
 
 namespace velk::erp::inline v4::tarn::nfe::servico {
 
-namespace {
-
-// Every version of the service may answer under any of these tags.
-std::vector<std::string> const& result_tags()
-{
-    static std::vector<std::string> const tags = {"nfeStatusServicoNFResult", "nfeStatusServicoNF2Result",
-                                                  "nfeResultMsg"};
-    return tags;
-}
-
-}  // namespace
-
 status_autorizador::resposta_type status_autorizador::executar(requisicao_type const& requisicao,
                                                                web_server_info const& servidor,
                                                                core::result::stack& result) const
 {
-    std::string const versao_dados =
-        checked_text<servico_result_category::versao_desconhecida>(requisicao.get_versao(), result);
-    if (result.has_failed()) {
-        return resposta_type();
-    }
-    checked_text<servico_result_category::estado_desconhecido>(requisicao.get_estado(), result);
-    if (result.has_failed()) {
+    std::string const versao_dados = checked_text<servico_result_category::versao_desconhecida>(requisicao.get_versao(), result);
+    if (result.has_failed() || !has_text<servico_result_category::estado_desconhecido>(requisicao.get_estado(), result)) {
         return resposta_type();
     }
     xml::document const request = request_document(requisicao, result);
     if (result.has_failed()) {
         return resposta_type();
     }
-    xml::document const answer =
-        exchange(request, requisicao.get_estado(), versao_dados, servidor, result_tags(), result);
-    if (result.has_failed()) {
-        return resposta_type();
-    }
-    return read_response<resposta_type>(answer, result);
+    // Every version of the service may answer under any of these tags.
+    return exchange_and_read<resposta_type>(request, requisicao.get_estado(), versao_dados, servidor,
+                                            {"nfeStatusServicoNFResult", "nfeStatusServicoNF2Result", "nfeResultMsg"},
+                                            result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::servico

@@ -46,7 +46,7 @@ TEST(assinatura, an_identifier_without_text_ends_the_frame_unsigned)
     stack s;
     auto const failing = [](std::string& id, stack& pieces) {
         id = "ID";
-        return campo::escrever_numero(id, 100, 2, true, "evento", "sequencia", pieces);
+        return campo::escrever_numero(id, 100, 2, 2, "evento", "sequencia", pieces);
     };
     velk::erp::tarn::nfe::detail::assinar_raiz(root, failing, taxpayer_pkcs12(), s);
     ASSERT_EQ(s.size(), 2U) << s.to_string();
@@ -109,20 +109,21 @@ TEST(assinatura, identifier_pieces_have_their_widths)
 {
     struct row {
         unsigned long long value;
-        unsigned digits;
-        bool exact;
+        unsigned min_digits;
+        unsigned max_digits;
         char const* text;  // null: refused
     };
+    unsigned const any = campo::sem_limite;
     row const rows[] = {
-        {7, 2, true, "07"},     {99, 2, true, "99"},         {100, 2, true, nullptr},
-        {35, 9, false, "000000035"}, {1234567890, 9, false, "1234567890"}, {0, 3, false, "000"},
+        {7, 2, 2, "07"},       {99, 2, 2, "99"},       {100, 2, 2, nullptr}, {35, 9, any, "000000035"},
+        {1234567890, 9, any, "1234567890"}, {0, 3, any, "000"}, {1000, 1, 3, nullptr}, {999, 1, 3, "999"},
     };
     for (row const& current : rows) {
         SCOPED_TRACE(current.value);
         stack s;
         std::string text = "ID";
-        bool const written = campo::escrever_numero(text, current.value, current.digits, current.exact, "inutilizacao",
-                                                    "serie", s);
+        bool const written = campo::escrever_numero(text, current.value, current.min_digits, current.max_digits,
+                                                    "inutilizacao", "serie", s);
         if (current.text == nullptr) {
             EXPECT_FALSE(written);
             EXPECT_EQ(text, "ID");

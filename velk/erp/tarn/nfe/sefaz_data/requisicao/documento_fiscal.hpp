@@ -92,9 +92,12 @@ public:
     core::optional<std::string> get_url_chave() const;
     // The DigestValue of the signature when the tree has one; else the
     // SHA-1 of the canonical infNFe in Base64, as the signature will hold it
-    // (the QR code needs it before signing). Empty when it cannot be
-    // computed. Without infNFe (a default object) the process ends: asking is
-    // a defect of the caller.
+    // (the QR code needs it before signing). Every tree read from text or
+    // written by this library has one; it is empty only for a tree made in
+    // memory that document::save refuses as well (a name that is no XML
+    // name, a namespace URI without a scheme), which signing then refuses on
+    // the stack. Without infNFe (a default object) the process ends: asking
+    // is a defect of the caller.
     std::string get_digest_value() const;
     core::datetime get_data_hora_emissao() const;
     core::optional<std::string> get_email_destinatario() const;

@@ -65,12 +65,7 @@ status_autorizador status_autorizador::from_xml(xml::element const& root, core::
 
 status_autorizador status_autorizador::from_xml(xml::document const& document, core::result::stack& result)
 {
-    xml::element const* root = document.get_root_element();
-    if (root == nullptr) {
-        core::result::fresh<result_category::documento_invalido>(result);
-        return status_autorizador();
-    }
-    return from_xml(*root, result);
+    return read_root<status_autorizador>(document, result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta
