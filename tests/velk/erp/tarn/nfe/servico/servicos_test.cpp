@@ -11,7 +11,7 @@
 #include "../documentos_teste.hpp"
 #include "servicos_teste.hpp"
 
-#include <support/canned_authority.hpp>
+#include <support/canned_sefaz.hpp>
 #include <support/files.hpp>
 #include <support/report.hpp>
 #include <support/schema.hpp>
@@ -198,7 +198,7 @@ TEST(servicos, each_service_reads_its_answer_under_its_own_result_tags)
     };
     for (road const& each : roads) {
         SCOPED_TRACE(each.name);
-        velk::test::canned_authority const authority(each.answer);
+        velk::test::canned_sefaz const authority(each.answer);
         EXPECT_EQ(each.service(server(authority.url())), each.expected);
         EXPECT_EQ(authority.received().size(), 1u);
     }
@@ -231,7 +231,7 @@ TEST(servicos, each_service_sends_its_message_in_its_envelope)
     };
     for (sent const& each : cases) {
         SCOPED_TRACE(each.name);
-        velk::test::canned_authority const authority(each.answer);
+        velk::test::canned_sefaz const authority(each.answer);
         // The catalogue's envelope has no header, even when one is asked for.
         each.service(server(authority.url(), "com_namespace"));
         ASSERT_EQ(authority.received().size(), 1u);
