@@ -65,4 +65,11 @@ std::vector<std::string> canned_authority::received() const
     return impl_->bodies;
 }
 
+std::string soap_envelope(std::string const& result_tag, std::string const& inside)
+{
+    return "<soap:Envelope xmlns:soap=\"http://www.w3.org/2003/05/soap-envelope\"><soap:Body><" + result_tag +
+           " xmlns=\"http://www.portalfiscal.inf.br/nfe/wsdl/Servico4\">" + inside + "</" + result_tag +
+           "></soap:Body></soap:Envelope>";
+}
+
 }  // namespace velk::test

@@ -27,4 +27,8 @@ private:
     std::unique_ptr<impl> impl_;
 };
 
+// A SOAP 1.2 answer with `inside` under the result tag, as the authorities
+// write it: no blanks between the tags.
+std::string soap_envelope(std::string const& result_tag, std::string const& inside);
+
 }  // namespace velk::test

@@ -26,6 +26,26 @@ int grupo(std::uint32_t codigo_status, std::initializer_list<std::uint32_t> suce
 
 }  // namespace
 
+int obter_grupo_status_resposta(sefaz_data::resposta::consulta const& resposta)
+{
+    return grupo(resposta.get_codigo_status(), {100, 101, 110, 150, 151});
+}
+
+int obter_grupo_status_resposta(sefaz_data::resposta::inutilizacao const& resposta)
+{
+    return grupo(resposta.get_codigo_status(), {102});
+}
+
+int obter_grupo_status_resposta(sefaz_data::resposta::lote_autorizacao const& resposta)
+{
+    return grupo(resposta.get_codigo_status(), {104});
+}
+
+int obter_grupo_status_resposta(sefaz_data::resposta::protocolo_nfe const& resposta)
+{
+    return grupo(resposta.get_codigo_status(), {100, 150});
+}
+
 int obter_grupo_status_resposta(sefaz_data::resposta::cancelamento const& resposta)
 {
     return grupo(resposta.get_codigo_status(), {135, 151});

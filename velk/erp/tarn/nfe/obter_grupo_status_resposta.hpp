@@ -1,6 +1,10 @@
 #pragma once
 
+#include <velk/erp/tarn/nfe/sefaz_data/resposta/consulta.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/resposta/inutilizacao.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_autorizacao.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_evento.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/resposta/protocolo_nfe.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/resposta_evento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/retorno_evento.hpp>
 
@@ -15,10 +19,18 @@ enum grupo_status_resposta : int {
     grupo_rejeitado = 3,               // anything else: refused, fix the message
 };
 
-// Success is, by answer: 135 and 151 for a cancellation; 135 for a correction
-// letter; 136 for an EPEC (registered before the note exists); 135 and 136
-// for a recipient's manifestation (136 when the national environment does not
-// know the note yet); 128 for a batch of events.
+// Success is, by answer: 100, 101, 110, 150 and 151 for the query by key (the
+// note authorized, cancelled or denied: its situation is known); 102 for a
+// disablement; 104 for an authorization batch processed; 100 and 150 for a
+// document's protocol (authorized, also out of time); 135 and 151 for a
+// cancellation; 135 for a correction letter; 136 for an EPEC (registered
+// before the note exists); 135 and 136 for a recipient's manifestation (136
+// when the national environment does not know the note yet); 128 for a batch
+// of events.
+int obter_grupo_status_resposta(sefaz_data::resposta::consulta const& resposta);
+int obter_grupo_status_resposta(sefaz_data::resposta::inutilizacao const& resposta);
+int obter_grupo_status_resposta(sefaz_data::resposta::lote_autorizacao const& resposta);
+int obter_grupo_status_resposta(sefaz_data::resposta::protocolo_nfe const& resposta);
 int obter_grupo_status_resposta(sefaz_data::resposta::cancelamento const& resposta);
 int obter_grupo_status_resposta(sefaz_data::resposta::carta_correcao const& resposta);
 int obter_grupo_status_resposta(sefaz_data::resposta::epec_nfe const& resposta);

@@ -91,16 +91,18 @@ bool read_required_attribute(xml::element const& elemento, std::string const& na
 }
 
 // from_xml of a message given as a document: a document without root is a
-// fresh code 5 and a default message; else the message's from_xml of the root.
-template <class Message>
-Message read_root(xml::document const& document, core::result::stack& stack)
+// fresh code 5 and a default message; else the message's from_xml of the
+// root, with the arguments that go between the element and the stack (the
+// kind of an event's payload, for one).
+template <class Message, class... Args>
+Message read_root(xml::document const& document, core::result::stack& stack, Args const&... args)
 {
     xml::element const* root = document.get_root_element();
     if (root == nullptr) {
         core::result::fresh<result_category::documento_invalido>(stack);
         return Message();
     }
-    return Message::from_xml(*root, stack);
+    return Message::from_xml(*root, args..., stack);
 }
 
 // Looks a path up in the map of find_elements_by_path; null when absent.

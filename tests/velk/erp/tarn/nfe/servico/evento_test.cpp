@@ -2,9 +2,10 @@
 // through the whole transport, from a server of fixed answers.
 #include "../sefaz_data/requisicao/evento_teste.hpp"
 #include "../sefaz_data/resposta/evento_respostas_teste.hpp"
+#include "servicos_teste.hpp"
 
-#include <support/canned_sefaz.hpp>
-#include <support/sefaz_simulator.hpp>
+#include <support/canned_authority.hpp>
+#include <support/files.hpp>
 #include <support/test_certificates.hpp>
 #include <support/xml_text.hpp>
 #include <velk/erp/tarn/nfe/obter_grupo_status_resposta.hpp>
@@ -26,30 +27,9 @@ namespace resposta = nfe::sefaz_data::resposta;
 using velk::core::result::stack;
 using velk::erp::tarn::ambiente;
 using arguments = std::vector<std::pair<std::string, std::string>>;
-
-constexpr char action[] = "http://www.portalfiscal.inf.br/nfe/wsdl/NFeRecepcaoEvento4/nfeRecepcaoEventoNF";
-
-nfe::servico::evento ready_service()
-{
-    stack s;
-    auto const bundle = velk::cryptography::pkcs12::from_byte_array(
-        velk::test::sefaz_simulator::pki().client_pkcs12(), velk::test::sefaz_simulator::pki().password(), s);
-    EXPECT_FALSE(s.has_failed()) << s.to_string();
-    nfe::servico::evento service;
-    service.set_auth(bundle, velk::test::sefaz_simulator::pki().ca_file().string());
-    service.set_timeout(std::chrono::milliseconds(10000));
-    return service;
-}
-
-nfe::web_server_info server_at(std::string const& url)
-{
-    nfe::web_server_info server;
-    server.set_endpoint_url(url);
-    server.set_action_url(action);
-    server.set_namespace_url("http://www.portalfiscal.inf.br/nfe/wsdl/NFeRecepcaoEvento4");
-    server.set_namespace_header("com_namespace");
-    return server;
-}
+using servico_evento = nfe::servico::evento;
+using velk::test::ready;
+using velk::test::server;
 
 requisicao::lote_evento batch_of(std::vector<requisicao::evento> const& eventos)
 {
@@ -111,7 +91,7 @@ TEST(servico_evento, first_checks_report_before_anything_is_sent)
     for (row const& each : rows) {
         SCOPED_TRACE(each.name);
         stack s;
-        auto const answer = ready_service().executar(each.batch, nfe::web_server_info(), s);
+        auto const answer = ready<servico_evento>().executar(each.batch, nfe::web_server_info(), s);
         ASSERT_EQ(s.size(), 1u) << s.to_string();
         EXPECT_EQ(s.get_category(), each.category);
         EXPECT_EQ(s.get_value(), each.code);
@@ -120,7 +100,7 @@ TEST(servico_evento, first_checks_report_before_anything_is_sent)
     }
     stack s;
     s.push_item(servico, 3);
-    ready_service().executar(rows[1].batch, nfe::web_server_info(), s);
+    ready<servico_evento>().executar(rows[1].batch, nfe::web_server_info(), s);
     EXPECT_EQ(s.size(), 1u) << "a fresh report replaces what the stack held: " << s.to_string();
 }
 
@@ -151,7 +131,8 @@ TEST(servico_evento, answers_of_each_status_group_through_the_transport)
          velk::test::ret_env_evento("108", "Servico Paralisado Momentaneamente (curto prazo)", ""), 2, {}},
         {"service stopped", "nfeResultMsg", velk::test::ret_env_evento("109", "Servico Paralisado sem Previsao", ""),
          2, {}},
-        {"batch refused", "nfeResultMsg", velk::test::ret_env_evento("215", "Rejeicao: Falha no schema XML", ""), 3, {}},
+        {"batch refused", "nfeResultMsg", velk::test::ret_env_evento("215", "Rejeicao: Falha no schema XML", ""), 3,
+         {}},
     };
     stack made;
     auto const examples = velk::test::eventos_de_exemplo();
@@ -161,13 +142,13 @@ TEST(servico_evento, answers_of_each_status_group_through_the_transport)
     manifest.assinar(velk::test::taxpayer_pkcs12(), made);
     ASSERT_FALSE(made.has_failed()) << made.to_string();
 
-    nfe::servico::evento service = ready_service();
+    servico_evento service = ready<servico_evento>();
     service.set_versao(nfe::versao::versao_4_00);
     for (row const& each : rows) {
         SCOPED_TRACE(each.name);
-        velk::test::canned_sefaz const server(velk::test::soap_answer(each.result_tag, each.answer));
+        velk::test::canned_authority const authority(velk::test::soap_envelope(each.result_tag, each.answer));
         stack s;
-        auto const answer = service.executar(batch_of({cancel, manifest}), server_at(server.url()), s);
+        auto const answer = service.executar(batch_of({cancel, manifest}), server(authority.url()), s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
         EXPECT_EQ(nfe::obter_grupo_status_resposta(answer), each.batch_group);
         std::vector<int> groups;
@@ -176,8 +157,8 @@ TEST(servico_evento, answers_of_each_status_group_through_the_transport)
         }
         EXPECT_EQ(groups, each.event_groups);
 
-        ASSERT_EQ(server.received().size(), 1u);
-        std::string const sent = server.received().front();
+        ASSERT_EQ(authority.received().size(), 1u);
+        std::string const sent = authority.received().front();
         std::string const header = sent.substr(0, sent.find("</soap:Header>"));
         EXPECT_NE(header.find("<cUF>SP</cUF>"), std::string::npos) << "the state of the first key: " << header;
         EXPECT_NE(header.find("<versaoDados>1.00</versaoDados>"), std::string::npos)
@@ -191,10 +172,11 @@ TEST(servico_evento, answers_of_each_status_group_through_the_transport)
 
 TEST(servico_evento, an_answer_under_the_tag_of_another_operation_is_not_taken)
 {
-    velk::test::canned_sefaz const server(
-        velk::test::soap_answer("nfeStatusServicoNFResult", velk::test::lote_processado("")));
+    velk::test::canned_authority const authority(
+        velk::test::soap_envelope("nfeStatusServicoNFResult", velk::test::lote_processado("")));
     stack s;
-    ready_service().executar(batch_of({velk::test::eventos_de_exemplo()[2].make(s)}), server_at(server.url()), s);
+    ready<servico_evento>().executar(batch_of({velk::test::eventos_de_exemplo()[2].make(s)}), server(authority.url()),
+                                     s);
     ASSERT_EQ(s.size(), 2u) << s.to_string();
     EXPECT_EQ(s.get_value(), 11);
     EXPECT_EQ(s.begin()->get_category(), nfe::processo_recuperar_resposta_result_category::instance());
@@ -225,6 +207,50 @@ TEST(obter_grupo_status_resposta, success_is_by_answer_and_the_rest_by_code)
     for (row const& each : rows) {
         SCOPED_TRACE(std::string(each.cstat) + " " + each.tipo);
         EXPECT_EQ(nfe::obter_grupo_status_resposta(event_answer(each.cstat, each.tipo)), each.group);
+    }
+}
+
+// The answer in `element` of a sample, its first cStat set to `cstat`, read
+// into its class and sorted.
+template <class Resposta>
+int group_of(std::string const& text, char const* element, std::string const& cstat)
+{
+    velk::xml::document const document = velk::test::parse_or_fail(text);
+    std::string answer =
+        velk::test::saved_text(*velk::test::first_element_named(*document.get_root_element(), element));
+    std::size_t const begin = answer.find("<cStat>") + 7;
+    answer.replace(begin, answer.find("</cStat>") - begin, cstat);
+    stack s;
+    auto const read = Resposta::from_xml(velk::test::parse_element(answer), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return nfe::obter_grupo_status_resposta(read);
+}
+
+TEST(obter_grupo_status_resposta, answers_to_the_documents)
+{
+    auto const sample = [](char const* file) { return velk::test::read_text(velk::test::sample(file)); };
+    std::string const consulta = "<retConsSitNFe><cStat>100</cStat><xMotivo/>"
+                                 "<dhRecbto>2024-05-14T18:43:02-03:00</dhRecbto></retConsSitNFe>";
+    std::string const inutilizacao = sample("soap/res_inut.xml");
+    std::string const protocolo = sample("messages/2017protocoled.xml");
+    std::string const lote = sample("soap/exemplo_retorno_sucesso_envia_lote.xml");
+    struct row {
+        char const* name;
+        int group;
+        int expected;
+    } const rows[] = {
+        {"query of a denied note", group_of<resposta::consulta>(consulta, "retConsSitNFe", "110"), 0},
+        {"query of a cancelled note", group_of<resposta::consulta>(consulta, "retConsSitNFe", "101"), 0},
+        {"query of an unknown key", group_of<resposta::consulta>(consulta, "retConsSitNFe", "217"), 3},
+        {"disablement", group_of<resposta::inutilizacao>(inutilizacao, "retInutNFe", "102"), 0},
+        {"disablement, service down", group_of<resposta::inutilizacao>(inutilizacao, "retInutNFe", "108"), 2},
+        {"authorized out of time", group_of<resposta::protocolo_nfe>(protocolo, "protNFe", "150"), 0},
+        {"denied", group_of<resposta::protocolo_nfe>(protocolo, "protNFe", "110"), 3},
+        {"batch processed", group_of<resposta::lote_autorizacao>(lote, "retEnviNFe", "104"), 0},
+        {"batch, unknown error", group_of<resposta::lote_autorizacao>(lote, "retEnviNFe", "999"), 1},
+    };
+    for (row const& each : rows) {
+        EXPECT_EQ(each.group, each.expected) << each.name;
     }
 }
 

@@ -36,6 +36,7 @@ using velk::erp::tarn::modelo;
 using velk::test::ready;
 using velk::test::report_line;
 using velk::test::server;
+using velk::test::soap_envelope;
 
 constexpr char nfce_key[] = "35240527164983000158650010000482131619382745";
 
@@ -110,14 +111,6 @@ call const call_consulta_gtin = [](nfe::web_server_info const& info) {
     return outcome(r, s);
 };
 
-// A SOAP answer with `inside` under the result tag.
-std::string envelope(std::string const& result_tag, std::string const& inside)
-{
-    return "<soap:Envelope xmlns:soap=\"http://www.w3.org/2003/05/soap-envelope\"><soap:Body><" + result_tag +
-           " xmlns=\"http://www.portalfiscal.inf.br/nfe/wsdl/Servico4\">" + inside + "</" + result_tag +
-           "></soap:Body></soap:Envelope>";
-}
-
 // A real answer as the authorities send it: no blanks between the tags.
 std::string compact_sample(std::string const& file)
 {
@@ -172,7 +165,7 @@ TEST(servicos, each_service_reads_its_answer_under_its_own_result_tags)
         {"autorizacao refuses the receipt query's tag", call_autorizacao,
          retagged(enviado, "nfeResultMsg", "nfeRetAutorizacaoResult"),
          refused("nfeRetAutorizacaoResult", lote_tags)},
-        {"autorizacao, answer of another service", call_autorizacao, envelope("nfeResultMsg", status_answer),
+        {"autorizacao, answer of another service", call_autorizacao, soap_envelope("nfeResultMsg", status_answer),
          "erp-tarn-sefaz-data 1 element-name=retEnviNFe / " + unreadable},
         {"consulta_recibo, real answer of SP", call_consulta_recibo, recibo, "104 Lote processado"},
         {"consulta_recibo, tag of the older receipt service", call_consulta_recibo,
@@ -184,16 +177,16 @@ TEST(servicos, each_service_reads_its_answer_under_its_own_result_tags)
         // SP once answered with the message straight under Body.
         {"inutilizacao, answer without result tag", call_inutilizacao, compact_sample("soap/res_inut.xml"),
          refused("retInutNFe", "nfeInutilizacaoNFResult, nfeInutilizacaoNF2Result, nfeResultMsg")},
-        {"consulta", call_consulta, envelope("nfeConsultaNF2Result", consulta_answer),
+        {"consulta", call_consulta, soap_envelope("nfeConsultaNF2Result", consulta_answer),
          "217 Rejeicao: NF-e nao consta na base de dados da SEFAZ"},
-        {"consulta refuses another tag", call_consulta, envelope("nfeStatusServicoNFResult", consulta_answer),
+        {"consulta refuses another tag", call_consulta, soap_envelope("nfeStatusServicoNFResult", consulta_answer),
          refused("nfeStatusServicoNFResult", "nfeConsultaNFResult, nfeConsultaNF2Result, nfeResultMsg")},
-        {"consulta_gtin", call_consulta_gtin, envelope("ccgConsGTINResponse", gtin_answer),
+        {"consulta_gtin", call_consulta_gtin, soap_envelope("ccgConsGTINResponse", gtin_answer),
          "9490 Consulta realizada com sucesso"},
-        {"consulta_gtin refuses the common tag", call_consulta_gtin, envelope("nfeResultMsg", gtin_answer),
+        {"consulta_gtin refuses the common tag", call_consulta_gtin, soap_envelope("nfeResultMsg", gtin_answer),
          refused("nfeResultMsg", "ccgConsGTINResponse")},
         {"consulta_gtin, answer of another service", call_consulta_gtin,
-         envelope("ccgConsGTINResponse", status_answer),
+         soap_envelope("ccgConsGTINResponse", status_answer),
          "erp-tarn-sefaz-data 1 element-name=nfeResultMsg / " + unreadable},
     };
     for (road const& each : roads) {
@@ -220,13 +213,13 @@ TEST(servicos, each_service_sends_its_message_in_its_envelope)
     sent const cases[] = {
         {"autorizacao", call_autorizacao, compact_sample("soap/exemplo_retorno_sucesso_envia_lote.xml"), "SP",
          "enviNFe", "enviNFe_v4.00.xsd"},
-        {"consulta", call_consulta, envelope("nfeResultMsg", consulta_answer), "SP", "consSitNFe",
+        {"consulta", call_consulta, soap_envelope("nfeResultMsg", consulta_answer), "SP", "consSitNFe",
          "consSitNFe_v4.00.xsd"},
         {"consulta_recibo", call_consulta_recibo, compact_sample("soap/2017reconsrec.xml"), "SP", "consReciNFe",
          "consReciNFe_v4.00.xsd"},
         {"inutilizacao", call_inutilizacao, compact_sample("soap/response_inut_cnpj.xml"), "SP", "inutNFe",
          "inutNFe_v4.00.xsd"},
-        {"consulta_gtin", call_consulta_gtin, envelope("ccgConsGTINResponse", gtin_answer), nullptr, "consGTIN",
+        {"consulta_gtin", call_consulta_gtin, soap_envelope("ccgConsGTINResponse", gtin_answer), nullptr, "consGTIN",
          "consGTIN_v1.00.xsd"},
     };
     for (sent const& each : cases) {

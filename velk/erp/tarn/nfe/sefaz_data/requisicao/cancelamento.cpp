@@ -1,6 +1,5 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/cancelamento.hpp>
 
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/det_evento.hpp>
@@ -109,7 +108,7 @@ cancelamento cancelamento::from_xml(xml::element const& det_evento, tipo_cancela
 cancelamento cancelamento::from_xml(xml::document const& documento, tipo_cancelamento tipo,
                                     core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<cancelamento>(documento, stack, tipo);
+    return read_root<cancelamento>(documento, stack, tipo);
 }
 
 std::uint64_t cancelamento::get_protocolo_autorizacao() const { return dados_->protocolo_autorizacao; }

@@ -1,6 +1,5 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/carta_correcao.hpp>
 
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/det_evento.hpp>
 
@@ -60,7 +59,7 @@ carta_correcao carta_correcao::from_xml(xml::element const& det_evento, core::re
 
 carta_correcao carta_correcao::from_xml(xml::document const& documento, core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<carta_correcao>(documento, stack);
+    return read_root<carta_correcao>(documento, stack);
 }
 
 std::string carta_correcao::get_correcao() const { return dados_->correcao; }

@@ -1,6 +1,5 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/epec_nfe.hpp>
 
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/det_evento.hpp>
@@ -84,7 +83,7 @@ epec_nfe epec_nfe::from_xml(xml::element const& det_evento, core::result::stack&
 
 epec_nfe epec_nfe::from_xml(xml::document const& documento, core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<epec_nfe>(documento, stack);
+    return read_root<epec_nfe>(documento, stack);
 }
 
 estado epec_nfe::get_estado() const { return dados_->uf; }

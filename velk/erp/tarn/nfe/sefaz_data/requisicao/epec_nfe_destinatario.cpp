@@ -1,7 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/epec_nfe.hpp>
 
 #include <velk/core/result/report.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/det_evento.hpp>
 
@@ -113,7 +112,7 @@ destinatario destinatario::from_xml(xml::element const& dest, core::result::stac
 
 destinatario destinatario::from_xml(xml::document const& documento, core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<destinatario>(documento, stack);
+    return read_root<destinatario>(documento, stack);
 }
 
 estado destinatario::get_estado() const { return dados_->uf; }

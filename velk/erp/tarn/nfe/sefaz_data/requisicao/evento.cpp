@@ -3,7 +3,6 @@
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/detail/assinatura.hpp>
 #include <velk/erp/tarn/nfe/namespace_nfe.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/det_evento.hpp>
@@ -247,7 +246,7 @@ evento evento::from_xml(xml::element const& elemento, core::result::stack& stack
 
 evento evento::from_xml(xml::document const& documento, core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<evento>(documento, stack);
+    return read_root<evento>(documento, stack);
 }
 
 void evento::assinar(cryptography::pkcs12 const& certificado, core::result::stack& stack)

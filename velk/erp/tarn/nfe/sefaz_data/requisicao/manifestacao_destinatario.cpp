@@ -1,7 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/manifestacao_destinatario.hpp>
 
 #include <velk/core/result/report.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/det_evento.hpp>
 
@@ -85,7 +84,7 @@ manifestacao_destinatario manifestacao_destinatario::from_xml(xml::element const
 manifestacao_destinatario manifestacao_destinatario::from_xml(xml::document const& documento, tipo_manifestacao tipo,
                                                               core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<manifestacao_destinatario>(documento, stack, tipo);
+    return read_root<manifestacao_destinatario>(documento, stack, tipo);
 }
 
 manifestacao_destinatario::tipo_manifestacao manifestacao_destinatario::get_tipo_manifestacao() const

@@ -1,7 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_evento.hpp>
 
 #include <velk/core/result/report.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/xml/node.hpp>
 
@@ -55,7 +54,7 @@ lote_evento lote_evento::from_xml(xml::element const& root, core::result::stack&
 
 lote_evento lote_evento::from_xml(xml::document const& documento, core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<lote_evento>(documento, stack);
+    return read_root<lote_evento>(documento, stack);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta

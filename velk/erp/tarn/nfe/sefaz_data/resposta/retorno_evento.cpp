@@ -1,7 +1,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/retorno_evento.hpp>
 
 #include <velk/core/result/report.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/detail/raiz_documento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
@@ -98,7 +97,7 @@ template <familia_evento Familia>
 retorno_familia<Familia> retorno_familia<Familia>::from_xml(xml::document const& documento,
                                                             core::result::stack& stack)
 {
-    return sefaz_data::detail::from_document_root<retorno_familia>(documento, stack);
+    return read_root<retorno_familia>(documento, stack);
 }
 
 template class retorno_familia<familia_evento::cancelamento>;

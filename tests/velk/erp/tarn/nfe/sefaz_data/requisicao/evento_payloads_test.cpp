@@ -42,8 +42,9 @@ TEST(cancelamento, both_kinds_are_written_and_read_back)
 {
     stack s;
     auto const ordinary = cancelamento::from_data("Desistencia do comprador", 135150001686732, s);
-    auto const substitution = cancelamento::from_data("Venda registrada em contingencia", 135240000000017, 35,
-                                                      "pdv 2.1", velk::test::chave_de_texto(velk::test::chave_nfce_offline), s);
+    auto const substitute = velk::test::chave_de_texto(velk::test::chave_nfce_offline);
+    auto const substitution =
+        cancelamento::from_data("Venda registrada em contingencia", 135240000000017, 35, "pdv 2.1", substitute, s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(text_of(ordinary.get_xml()),
               det_evento("<descEvento>Cancelamento</descEvento><nProt>135150001686732</nProt>"
@@ -108,7 +109,8 @@ TEST(cancelamento, what_from_xml_refuses)
     };
     for (refusal const& each : rows) {
         stack s;
-        auto const read = cancelamento::from_xml(velk::test::parse_element(each.xml), tipo_cancelamento::substituicao, s);
+        auto const read =
+            cancelamento::from_xml(velk::test::parse_element(each.xml), tipo_cancelamento::substituicao, s);
         expect_refusal(each, s, read.get_xml());
     }
     stack s;
@@ -116,7 +118,8 @@ TEST(cancelamento, what_from_xml_refuses)
         cancelamento::from_xml(velk::test::parse_element(without("chNFeRef")), tipo_cancelamento::substituicao, s);
     EXPECT_FALSE(s.has_failed()) << "left to the service: " << s.to_string();
     EXPECT_FALSE(without_substitute.get_chave_acesso_substituta().has_value());
-    cancelamento::from_xml(velk::test::parse_element(det_evento("<nProt>1.5</nProt><xJust/>")), tipo_cancelamento::normal, s);
+    cancelamento::from_xml(velk::test::parse_element(det_evento("<nProt>1.5</nProt><xJust/>")),
+                           tipo_cancelamento::normal, s);
     EXPECT_EQ(s.top().get_arguments(), (arguments{{"element-name", "detEvento/nProt"}, {"element-value", "1.5"}}));
     s.reset();
     cancelamento::from_xml(velk::xml::document(), tipo_cancelamento::normal, s);
@@ -204,9 +207,8 @@ TEST(epec_nfe, writes_the_summary_and_reads_it_without_the_recipient)
     EXPECT_EQ(read.get_ie(), "");
     EXPECT_EQ(read.get_destinatario().get_xml().get_name(), "") << "dest is not read";
 
-    epec_nfe::from_xml(velk::test::parse_element(det_evento("<cOrgaoAutor>35</cOrgaoAutor><dhEmi>"
-                                                            "2024-02-01T14:07:05-03:00</dhEmi><tpNF>1</tpNF><IE>1</IE>")),
-                       s);
+    std::string const without_dest = text_of(made.get_xml()).substr(0, text_of(made.get_xml()).find("<dest>"));
+    epec_nfe::from_xml(velk::test::parse_element(without_dest + "</detEvento>"), s);
     EXPECT_FALSE(s.has_failed()) << "no dest is no failure";
 
     stack failed;
@@ -235,7 +237,8 @@ TEST(epec_nfe_destinatario, identification_and_totals_read_back)
         ASSERT_FALSE(s.has_failed()) << s.to_string();
         EXPECT_EQ(read.get_estado(), velk::erp::estado::sp);
         ASSERT_EQ(read.get_identificacao().index(), each.alternative);
-        std::string const documento = velk::core::visit([](auto const& id) { return id.valor; }, read.get_identificacao());
+        std::string const documento =
+            velk::core::visit([](auto const& id) { return id.valor; }, read.get_identificacao());
         EXPECT_EQ(documento, each.documento);
     }
 
