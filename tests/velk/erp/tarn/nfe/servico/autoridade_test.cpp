@@ -17,7 +17,6 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <regex>
 #include <string>
 #include <vector>
 
@@ -197,8 +196,13 @@ TEST(autoridade, each_refusal_reaches_the_caller_as_the_answer_says_it)
          [](autoridade const& sefaz) {
              sefaz.autorizar({nfce(1101)}, true);
              // The reason names the protocol of the first and its time.
-             return std::regex_replace(lido(sefaz.autorizar({nfce(1101)}, true)),
-                                       std::regex("\\[nProt:[0-9]{15}\\]\\[dhAut:[-0-9T:]{25}\\]"), "[...]");
+             std::string line = lido(sefaz.autorizar({nfce(1101)}, true));
+             std::size_t const from = line.find(" [nProt:");
+             std::size_t const to = line.find("] -]", from);
+             if (from != std::string::npos && to != std::string::npos) {
+                 line.replace(from, to + 1 - from, " [...]");
+             }
+             return line;
          },
          processado + "[204 Rejeição: Duplicidade de NF-e [...] -]"},
         {"a document changed after signing", {}, autorizar({alterado(nfce(1102), "<vNF>53.21", "<vNF>5.21")}),
