@@ -21,5 +21,9 @@ void run_qrcode_step(demo_context& context);
 // key of both, a range of numbers disabled and a GTIN query; the documents
 // written beside their protocols.
 void run_authorization_step(demo_context& context);
+// The events of the notes of the authorization step, against the simulator:
+// the NFC-e cancelled, a correction letter and the recipient's confirmation
+// of the NF-e, and the query by key that tells them.
+void run_events_step(demo_context& context);
 
 }  // namespace velk::demo
