@@ -224,6 +224,17 @@ struct recusa {
     std::string lido;
 };
 
+// Each case against an authority of its own options.
+template <std::size_t N>
+void conferir(recusa const (&casos)[N])
+{
+    for (recusa const& each : casos) {
+        SCOPED_TRACE(each.caso);
+        autoridade const sefaz(each.opcoes);
+        EXPECT_EQ(each.pedir(sefaz), each.lido);
+    }
+}
+
 TEST(autoridade, each_refusal_reaches_the_caller_as_the_answer_says_it)
 {
     auto const autorizar = [](std::vector<requisicao::documento_fiscal> const& documentos, bool sincrono = true) {
@@ -284,11 +295,7 @@ TEST(autoridade, each_refusal_reaches_the_caller_as_the_answer_says_it)
          },
          "563 Rejeição: Já existe pedido de Inutilização com a mesma faixa de inutilização -"},
     };
-    for (recusa const& each : recusas) {
-        SCOPED_TRACE(each.caso);
-        autoridade const sefaz(each.opcoes);
-        EXPECT_EQ(each.pedir(sefaz), each.lido);
-    }
+    conferir(recusas);
 }
 
 TEST(autoridade, a_range_disabled_and_a_product_of_the_catalogue)
@@ -440,11 +447,7 @@ TEST(autoridade, each_event_registered_or_refused_reaches_the_caller_as_the_answ
          [](autoridade const& sefaz) { return lido(sefaz.registrar({ciencia(nfe_55(2206))})); },
          "999 Rejeição: Erro não catalogado (1)"},
     };
-    for (recusa const& each : casos) {
-        SCOPED_TRACE(each.caso);
-        autoridade const sefaz(each.opcoes);
-        EXPECT_EQ(each.pedir(sefaz), each.lido);
-    }
+    conferir(casos);
 }
 
 TEST(autoridade, a_cancelled_note_is_told_cancelled_with_its_events)
