@@ -10,7 +10,13 @@ install(TARGETS ${velk_libraries} EXPORT VelkTargets
 
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/foundation/velk ${PROJECT_SOURCE_DIR}/velk
     DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
-    FILES_MATCHING PATTERN "*.hpp" PATTERN "*.h")
+    FILES_MATCHING PATTERN "*.hpp" PATTERN "*.h" PATTERN "*.proto")
+# The headers protoc made of the note's messages, which the public interface
+# of the document generation from NotaFiscal names.
+get_property(velk_generated_roots GLOBAL PROPERTY VELK_GENERATED_HEADER_ROOTS)
+foreach(root IN LISTS velk_generated_roots)
+    install(DIRECTORY ${root}/velk DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} FILES_MATCHING PATTERN "*.pb.h")
+endforeach()
 
 set(velk_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/velk-erp-tarn)
 install(EXPORT VelkTargets NAMESPACE velk:: DESTINATION ${velk_cmake_dir})
