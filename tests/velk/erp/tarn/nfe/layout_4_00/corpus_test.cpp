@@ -3,13 +3,9 @@
 // and so does a tree with what only other sources fill.
 
 #include "layout_teste.hpp"
+#include "../assinado_teste.hpp"
 
 #include <support/corpus_notas.hpp>
-#include <support/files.hpp>
-#include <support/schema.hpp>
-#include <support/test_certificates.hpp>
-#include <support/xml_text.hpp>
-#include <support/xmlsec.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <gtest/gtest.h>
@@ -23,26 +19,8 @@ namespace {
 using velk::core::result::stack;
 using velk::erp::tarn::nfe::versao;
 using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
+using velk::test::assinado_e_verificado;
 using velk::test::nota_do_corpus;
-
-// Signs the document, then checks it against the official schema and an
-// independent verifier; gives its text.
-std::string assinado_e_verificado(documento_fiscal& documento)
-{
-    stack report;
-    documento.assinar(velk::test::taxpayer_pkcs12(), report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    std::string const texto = velk::test::saved_text(documento.get_xml());
-
-    auto const erros =
-        velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", velk::core::byte_array(texto));
-    EXPECT_TRUE(erros.empty()) << testing::PrintToString(erros) << "\n" << texto;
-
-    auto const verificacao = velk::test::xmlsec_verify(texto, "http://www.portalfiscal.inf.br/nfe:infNFe",
-                                                       velk::test::test_certificates::instance().ca_pem());
-    EXPECT_TRUE(verificacao.success) << verificacao.output;
-    return texto;
-}
 
 class corpus : public testing::TestWithParam<nota_do_corpus> {};
 
