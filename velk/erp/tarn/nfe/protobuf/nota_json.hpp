@@ -26,8 +26,8 @@ bool ler_nota_json(std::string_view texto, ::velk::internal::nfe::serialization:
                    core::result::stack& stack);
 
 // The JSON text of a note, with the field names of the .proto files, indented,
-// and the fields that hold their defaults left out. On failure (a text field
-// that is no UTF-8) code 3 with protobuf's reason, and an empty text.
+// and the fields that hold their defaults left out. Should protobuf's writer
+// fail, code 3 with its reason, and an empty text.
 std::string escrever_nota_json(::velk::internal::nfe::serialization::NotaFiscal const& nota,
                                core::result::stack& stack);
 
