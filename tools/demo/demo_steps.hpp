@@ -22,6 +22,8 @@ void run_generation_step(demo_context& context);
 // NFC-e generated from notes, with the QR code in versions 1.00 and 2.00,
 // online and in offline contingency, and urlChave; signed.
 void run_qrcode_step(demo_context& context);
+// An NFC-e issued from a note written as JSON into the output folder.
+void run_json_step(demo_context& context);
 // What the authorization step leaves to the steps after it: the signed
 // documents with their protocols, and the disablement with its answer.
 struct road_results {

@@ -39,6 +39,7 @@ int main(int argc, char** argv)
         velk::demo::run_status_step(context);
         velk::demo::run_generation_step(context);
         velk::demo::run_qrcode_step(context);
+        velk::demo::run_json_step(context);
         velk::demo::demo_authority authority(context);
         velk::demo::road_results const road = velk::demo::run_authorization_step(context, authority);
         velk::demo::run_events_step(authority, road);
