@@ -142,6 +142,31 @@ void json_to_signed_nfce(benchmark::State& state)
 }
 BENCHMARK(json_to_signed_nfce)->Unit(benchmark::kMicrosecond);
 
+// The parts of the road, to see where its time goes.
+void json_read(benchmark::State& state)
+{
+    std::string const texto = nfce_json();
+    velk::core::result::stack stack;
+    for (auto _ : state) {
+        serialization::NotaFiscal nota;
+        benchmark::DoNotOptimize(nfe::protobuf::ler_nota_json(texto, nota, stack));
+    }
+}
+BENCHMARK(json_read)->Unit(benchmark::kMicrosecond);
+
+void json_to_document(benchmark::State& state)
+{
+    std::string const texto = nfce_json();
+    velk::core::result::stack stack;
+    for (auto _ : state) {
+        serialization::NotaFiscal nota;
+        nfe::protobuf::ler_nota_json(texto, nota, stack);
+        benchmark::DoNotOptimize(nfe::sefaz_data::requisicao::documento_fiscal::from_xml(
+            nfe::protobuf::generate_document_4_00(nota, stack), stack));
+    }
+}
+BENCHMARK(json_to_document)->Unit(benchmark::kMicrosecond);
+
 }  // namespace
 
 BENCHMARK_MAIN();
