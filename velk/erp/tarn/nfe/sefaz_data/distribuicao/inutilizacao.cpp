@@ -8,10 +8,19 @@
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::distribuicao {
 
+namespace {
+
+// The root as the layout's schema declares it, with a capital P, though the
+// failures and most stored archives call it procInutNFe: both are read.
+constexpr char raiz[] = "ProcInutNFe";
+constexpr char raiz_minuscula[] = "procInutNFe";
+
+}  // namespace
+
 struct inutilizacao::dados {
     requisicao::inutilizacao requisicao;
     resposta::inutilizacao resposta;
-    xml::element xml{"procInutNFe"};
+    xml::element xml{raiz};
 };
 
 inutilizacao::inutilizacao() = default;
@@ -52,7 +61,7 @@ inutilizacao inutilizacao::from_xml(xml::element const& elemento, xml::element c
 
 inutilizacao inutilizacao::from_xml(xml::element const& proc_inut, core::result::stack& stack)
 {
-    if (proc_inut.get_name() != "procInutNFe") {
+    if (proc_inut.get_name() != raiz && proc_inut.get_name() != raiz_minuscula) {
         core::result::fresh<result_category::elemento_ausente>(stack, "procInutNFe");
         return {};
     }

@@ -8,12 +8,14 @@
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::distribuicao {
 
-// A disablement with the authority's answer (procInutNFe): the proof that a
-// range of numbers was never used. Unlike the other archives it keeps the
-// request and the answer as objects beside its tree.
+// A disablement with the authority's answer: the proof that a range of
+// numbers was never used. The archive is written ProcInutNFe, the name the
+// layout's schema gives it; one stored as procInutNFe reads as well. Unlike
+// the other archives it keeps the request and the answer as objects beside
+// its tree.
 class inutilizacao {
 public:
-    // An empty procInutNFe with default parts.
+    // An empty ProcInutNFe with default parts.
     inutilizacao();
     inutilizacao(inutilizacao const& other);
     inutilizacao(inutilizacao&& other) noexcept;
@@ -21,7 +23,7 @@ public:
     inutilizacao& operator=(inutilizacao&& other) noexcept;
     ~inutilizacao();
 
-    // procInutNFe in the NF-e namespace, versao the request's, then copies of
+    // ProcInutNFe in the NF-e namespace, versao the request's, then copies of
     // the signed inutNFe and of the retInutNFe, unchanged. A version without
     // text is code 9 ("inutilizacao", "versao") over the converter's
     // failure; a failure of the XML library stays as it came. Either gives an
@@ -32,7 +34,7 @@ public:
     // their readers, and pairs them as from_data.
     static inutilizacao from_xml(xml::element const& inutilizacao, xml::element const& resposta,
                                  core::result::stack& stack);
-    // The same from a stored procInutNFe (another root is code 1
+    // The same from a stored ProcInutNFe or procInutNFe (another root is code 1
     // "procInutNFe", a missing child code 1 "procInutNFe/inutNFe" or
     // "procInutNFe/retInutNFe"); the tree kept is then the one given, as it
     // came, its own attributes included.
