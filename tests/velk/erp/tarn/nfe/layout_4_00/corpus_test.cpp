@@ -4,12 +4,10 @@
 
 #include "layout_teste.hpp"
 
+#include "../documento_verificado_teste.hpp"
+
 #include <support/corpus_notas.hpp>
-#include <support/files.hpp>
-#include <support/schema.hpp>
-#include <support/test_certificates.hpp>
 #include <support/xml_text.hpp>
-#include <support/xmlsec.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <gtest/gtest.h>
@@ -25,25 +23,6 @@ using velk::erp::tarn::nfe::versao;
 using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
 using velk::test::nota_do_corpus;
 
-// Signs the document, then checks it against the official schema and an
-// independent verifier; gives its text.
-std::string assinado_e_verificado(documento_fiscal& documento)
-{
-    stack report;
-    documento.assinar(velk::test::taxpayer_pkcs12(), report);
-    EXPECT_FALSE(report.has_failed()) << report.to_string();
-    std::string const texto = velk::test::saved_text(documento.get_xml());
-
-    auto const erros =
-        velk::test::validate_against_schema(velk::test::schema_dir() / "nfe_v4.00.xsd", velk::core::byte_array(texto));
-    EXPECT_TRUE(erros.empty()) << testing::PrintToString(erros) << "\n" << texto;
-
-    auto const verificacao = velk::test::xmlsec_verify(texto, "http://www.portalfiscal.inf.br/nfe:infNFe",
-                                                       velk::test::test_certificates::instance().ca_pem());
-    EXPECT_TRUE(verificacao.success) << verificacao.output;
-    return texto;
-}
-
 class corpus : public testing::TestWithParam<nota_do_corpus> {};
 
 TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
@@ -51,7 +30,7 @@ TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
     stack report;
     documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    assinado_e_verificado(documento);
+    velk::test::assinado_e_verificado(documento, "nfe_v4.00.xsd");
 }
 
 // The manufacturer's CNPJ, which only other sources than the model fill,
@@ -68,7 +47,7 @@ TEST(corpus_arvore, the_manufacturers_cnpj_is_CNPJFab)
     stack report;
     documento_fiscal documento = documento_fiscal::from_xml(velk::test::documento_de(arvore), report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    std::string const texto = assinado_e_verificado(documento);
+    std::string const texto = velk::test::assinado_e_verificado(documento, "nfe_v4.00.xsd");
     EXPECT_NE(texto.find("<CEST>0107300</CEST><CNPJFab>92615847000107</CNPJFab><CFOP>"), std::string::npos) << texto;
 }
 
