@@ -19,7 +19,10 @@ void run_qrcode_step(demo_context& context);
 // The road to authorization against the simulator acting as authority: an
 // NFC-e authorized synchronously, an NF-e through its receipt, the query by
 // key of both, a range of numbers disabled and a GTIN query; the documents
-// written beside their protocols.
+// written beside their protocols, and the disabled range beside its answer,
+// as the library archives them.
 void run_authorization_step(demo_context& context);
+// The NF-e of the generation step in layout 3.10, signed.
+void run_layout_3_10_step(demo_context& context);
 
 }  // namespace velk::demo
