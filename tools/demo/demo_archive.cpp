@@ -4,6 +4,7 @@
 #include "demo_xml.hpp"
 
 #include <velk/erp/tarn/nfe/sefaz_data/distribuicao/autorizacao.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/distribuicao/evento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/distribuicao/inutilizacao.hpp>
 #include <velk/xml/document.hpp>
 
@@ -36,6 +37,15 @@ std::string archive_authorization(erp::tarn::nfe::sefaz_data::requisicao::docume
     auto const arquivo = distribuicao::autorizacao::from_data(documento, protocolo, stack);
     check(stack, "archive of the authorization");
     return texto_relido(arquivo, "archive of the authorization, read back");
+}
+
+std::string archive_event(erp::tarn::nfe::sefaz_data::requisicao::evento const& evento,
+                          erp::tarn::nfe::sefaz_data::resposta::resposta_evento const& resposta)
+{
+    core::result::stack stack;
+    auto const arquivo = distribuicao::evento::from_data(evento, resposta, stack);
+    check(stack, "archive of the event");
+    return texto_relido(arquivo, "archive of the event, read back");
 }
 
 std::string archive_disablement(erp::tarn::nfe::sefaz_data::requisicao::inutilizacao const& pedido,

@@ -22,6 +22,10 @@ void run_qrcode_step(demo_context& context);
 // written beside their protocols, and the disabled range beside its answer,
 // as the library archives them.
 void run_authorization_step(demo_context& context);
+// The events of the notes of the authorization step, against the simulator:
+// the NFC-e cancelled, a correction letter and the recipient's confirmation
+// of the NF-e, and the query by key that tells them.
+void run_events_step(demo_context& context);
 // The NF-e of the generation step in layout 3.10, signed.
 void run_layout_3_10_step(demo_context& context);
 

@@ -40,6 +40,7 @@ int main(int argc, char** argv)
         velk::demo::run_generation_step(context);
         velk::demo::run_qrcode_step(context);
         velk::demo::run_authorization_step(context);
+        velk::demo::run_events_step(context);
         velk::demo::run_layout_3_10_step(context);
         context.write_manifest();
     } catch (velk::demo::demo_failure const& failure) {

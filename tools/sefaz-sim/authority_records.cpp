@@ -68,14 +68,54 @@ void authority_records::authorize(document_protocol& protocol)
     keys_by_place_.emplace(number, protocol.key);
 }
 
-std::optional<document_protocol> authority_records::authorized(std::string const& key) const
+authority_records::note_situation authority_records::situation(std::string const& key) const
 {
     std::lock_guard<std::mutex> const lock(mutex_);
-    auto const found = authorized_.find(key);
-    if (found == authorized_.end()) {
-        return std::nullopt;
+    note_situation held;
+    if (auto const found = authorized_.find(key); found != authorized_.end()) {
+        held.authorization = found->second;
     }
-    return found->second;
+    held.cancelled = cancelled_.count(key) != 0;
+    if (auto const found = proc_events_.find(key); found != proc_events_.end()) {
+        held.events = found->second;
+    }
+    return held;
+}
+
+void authority_records::register_event(event_protocol& event, event_rule rule, std::string const& note_protocol)
+{
+    std::lock_guard<std::mutex> const lock(mutex_);
+    auto const decide = [&event](int status) {
+        event.status = status;
+        event.reason = status_codes::reason(status);
+    };
+    auto const note = authorized_.find(event.key);
+    bool const held = note != authorized_.end();
+    auto const registered = std::make_tuple(event.key, event.type, event.sequence);
+    if (rule != event_rule::may_precede && !held) {
+        return decide(217);
+    }
+    if (events_.count(registered) != 0) {
+        return decide(573);
+    }
+    if (rule != event_rule::may_precede && cancelled_.count(event.key) != 0) {
+        return decide(580);
+    }
+    if (rule == event_rule::cancels && note_protocol != note->second.number) {
+        return decide(222);
+    }
+    decide(held ? 135 : 136);
+    event.number = next_protocol(event.orgao);
+    events_.insert(registered);
+    if (rule == event_rule::cancels) {
+        cancelled_.insert(event.key);
+    }
+}
+
+void authority_records::keep_event(std::string const& key, std::string proc_event)
+{
+    std::lock_guard<std::mutex> const lock(mutex_);
+    proc_events_[key].push_back(std::move(proc_event));
 }
 
 int authority_records::disable(number_range const& range, std::string const& uf, std::string& protocol_number)

@@ -16,6 +16,9 @@ std::vector<fault_kind> const& fault_kinds()
         {fault::wrong_root, "wrong-root", "a retConsSitNFe inside nfeResultMsg, whatever was asked"},
         {fault::text_node, "text-node", "the answer pretty-printed, with line breaks between the envelope's tags"},
         {fault::close, "close", "close the connection without answering"},
+        {fault::unknown_error, "unknown-error",
+         "every service answers cStat 999 \"Rejeição: Erro não catalogado\",\n"
+         "                                        as an authority whose own processing failed"},
     };
     return kinds;
 }

@@ -19,6 +19,7 @@ enum class fault {
     wrong_root,        // the answer of another service inside nfeResultMsg
     text_node,         // the answer pretty-printed: line breaks between the envelope's tags
     close,             // the connection closed without a byte of answer
+    unknown_error,     // every service answers 999, the authority's own failure
 };
 
 struct fault_kind {

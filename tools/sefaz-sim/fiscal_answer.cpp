@@ -24,6 +24,8 @@ fiscal_answer::fiscal_answer(request_envelope const& request, validation const& 
     }
     if (options.stopped_status != 0) {
         decide(options.stopped_status);
+    } else if (options.injected == fault::unknown_error) {
+        decide(999);
     } else if (checked.result == outcome::unknown_version) {
         decide(239);
     } else if (checked.result == outcome::invalid) {

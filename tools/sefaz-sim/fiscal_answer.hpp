@@ -11,8 +11,9 @@ namespace velk::tools::sefaz_sim {
 // What the answers of every service share: the status of the processing and
 // the version, environment and state they carry. The checks every message
 // meets come first, in the authority's order: the service stopped (108 or
-// 109), a version without schema (239), the schema (215, or the service's own
-// code), the environment (252). The service decides the rest.
+// 109), the authority's own failure (999, --fault unknown-error), a version
+// without schema (239), the schema (215, or the service's own code), the
+// environment (252). The service decides the rest.
 class fiscal_answer {
 public:
     // What the service reads from its message for those checks.

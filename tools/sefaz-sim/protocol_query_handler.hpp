@@ -5,7 +5,10 @@
 namespace velk::tools::sefaz_sim {
 
 // The query by access key (consSitNFe -> retConsSitNFe): 100 with the protNFe
-// of a document authorized while the process runs, 217 for any other key.
+// of a document authorized while the process runs, 101 once an event
+// cancelled it, 217 for any other key. The procEventoNFe of each event
+// registered about the key follow the protNFe: those of a key the authority
+// never authorized (an EPEC, a manifestation) are not told.
 class protocol_query_handler final : public service_handler {
 public:
     using service_handler::service_handler;

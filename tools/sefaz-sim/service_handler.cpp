@@ -2,6 +2,7 @@
 
 #include "authorization_handler.hpp"
 #include "disablement_handler.hpp"
+#include "event_handler.hpp"
 #include "gtin_handler.hpp"
 #include "protocol_query_handler.hpp"
 #include "receipt_handler.hpp"
@@ -18,6 +19,7 @@ std::map<std::string, std::unique_ptr<service_handler>, std::less<>> service_han
         std::make_unique<status_handler>(context),         std::make_unique<authorization_handler>(context),
         std::make_unique<receipt_handler>(context),        std::make_unique<protocol_query_handler>(context),
         std::make_unique<disablement_handler>(context),    std::make_unique<gtin_handler>(context),
+        std::make_unique<event_handler>(context),
     };
     std::map<std::string, std::unique_ptr<service_handler>, std::less<>> by_root;
     for (auto& service : services) {

@@ -13,12 +13,14 @@
 
 namespace velk::tools::sefaz_sim {
 
-// What the services share: the command line, the authority's memory and its
-// signing key.
+// What the services share: the command line, the authority's memory, its
+// signing key, and the schemas for the parts of a message that its root's
+// schema leaves open.
 struct service_context {
     simulator_options const& options;
     authority_records& records;
     answer_signer const& signer;
+    schema_validator& validator;
 };
 
 // One web service of the simulator, chosen by the root element of the message

@@ -8,6 +8,7 @@ std::string const& status_codes::reason(int code)
 {
     static std::map<int, std::string> const texts = {
         {100, "Autorizado o uso da NF-e"},
+        {101, "Cancelamento de NF-e homologado"},
         {102, "Inutilização de número homologado"},
         {103, "Lote recebido com sucesso"},
         {104, "Lote processado"},
@@ -16,10 +17,14 @@ std::string const& status_codes::reason(int code)
         {107, "Serviço em Operação"},
         {108, "Serviço Paralisado Momentaneamente (curto prazo)"},
         {109, "Serviço Paralisado sem Previsão"},
+        {128, "Lote de Evento Processado"},
+        {135, "Evento registrado e vinculado a NF-e"},
+        {136, "Evento registrado, mas não vinculado a NF-e"},
         {204, "Rejeição: Duplicidade de NF-e"},
         {206, "Rejeição: NF-e já está inutilizada na Base de dados da SEFAZ"},
         {215, "Rejeição: Falha no schema XML"},
         {217, "Rejeição: NF-e não consta na base de dados da SEFAZ"},
+        {222, "Rejeição: Protocolo de Autorização de Uso difere do cadastrado"},
         {225, "Rejeição: Falha no Schema XML do lote de NFe"},
         {236, "Rejeição: Chave de Acesso com dígito verificador inválido"},
         {239, "Rejeição: Cabeçalho - Versão do arquivo XML não suportada"},
@@ -32,6 +37,8 @@ std::string const& status_codes::reason(int code)
          "Rejeição: Erro na Chave de Acesso - Campo Id não corresponde à concatenação dos campos correspondentes"},
         {539, "Rejeição: Duplicidade de NF-e com diferença na Chave de Acesso"},
         {563, "Rejeição: Já existe pedido de Inutilização com a mesma faixa de inutilização"},
+        {573, "Rejeição: Duplicidade de Evento"},
+        {580, "Rejeição: O evento exige uma NF-e autorizada"},
         {999, "Rejeição: Erro não catalogado"},
         // The central GTIN catalogue answers with codes of its own.
         {9490, "Consulta realizada com sucesso"},

@@ -31,7 +31,7 @@ constexpr char fault_detail[] =
 
 web_services::web_services(simulator_options options)
     : options_(std::move(options)), validator_(options_.schemas), signer_(options_.certificate, options_.key),
-      context_{options_, records_, signer_}, services_(service_handler::all(context_))
+      context_{options_, records_, signer_, validator_}, services_(service_handler::all(context_))
 {
 }
 

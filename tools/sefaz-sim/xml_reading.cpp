@@ -1,5 +1,10 @@
 #include "xml_reading.hpp"
 
+#include <libxml/xmlIO.h>
+#include <libxml/xmlsave.h>
+
+#include <memory>
+
 namespace velk::tools::sefaz_sim::xml_reading {
 
 namespace {
@@ -71,6 +76,27 @@ std::string namespace_of(xmlNode const* element)
 {
     return element == nullptr || element->ns == nullptr ? std::string()
                                                         : reinterpret_cast<char const*>(element->ns->href);
+}
+
+std::string element_text(xmlNode const* element)
+{
+    if (element == nullptr) {
+        return std::string();
+    }
+    std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> const own(xmlNewDoc(reinterpret_cast<xmlChar const*>("1.0")),
+                                                         &xmlFreeDoc);
+    // The copy declares on itself the namespaces it uses from outside.
+    xmlNode* const copy = own ? xmlDocCopyNode(const_cast<xmlNode*>(element), own.get(), 1) : nullptr;
+    xmlOutputBuffer* const buffer = copy == nullptr ? nullptr : xmlAllocOutputBuffer(nullptr);
+    if (buffer == nullptr) {
+        return std::string();
+    }
+    xmlDocSetRootElement(own.get(), copy);
+    // Naming the encoding keeps accented letters as they are, not as references.
+    xmlNodeDumpOutput(buffer, own.get(), copy, 0, 0, "UTF-8");
+    std::string text(reinterpret_cast<char const*>(xmlOutputBufferGetContent(buffer)), xmlOutputBufferGetSize(buffer));
+    xmlOutputBufferClose(buffer);
+    return text;
 }
 
 }  // namespace velk::tools::sefaz_sim::xml_reading

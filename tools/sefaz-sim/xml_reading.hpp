@@ -30,4 +30,9 @@ std::string attribute(xmlNode const* element, char const* name);
 // The URI of the element's namespace; empty when it has none.
 std::string namespace_of(xmlNode const* element);
 
+// The element and its contents as UTF-8 text, as the root of a document of
+// its own: the namespaces it takes from its ancestors are declared on it, so
+// that the text can go into another message unchanged in meaning.
+std::string element_text(xmlNode const* element);
+
 }  // namespace velk::tools::sefaz_sim::xml_reading

@@ -37,6 +37,7 @@ std::string const& service_namespace(std::string const& root)
         {"consSitNFe", "http://www.portalfiscal.inf.br/nfe/wsdl/NFeConsultaProtocolo4"},
         {"inutNFe", "http://www.portalfiscal.inf.br/nfe/wsdl/NFeInutilizacao4"},
         {"consGTIN", "http://www.portalfiscal.inf.br/nfe/wsdl/ccgConsGtin"},
+        {"envEvento", "http://www.portalfiscal.inf.br/nfe/wsdl/NFeRecepcaoEvento4"},
     };
     return namespaces.at(root);
 }
@@ -51,7 +52,15 @@ xml::element const* first_child_element(xml::element const& parent)
     return nullptr;
 }
 
-// The element as text, without the XML declaration.
+std::string digits(unsigned value, int width)
+{
+    char text[16];
+    std::snprintf(text, sizeof text, "%0*u", width, value);
+    return text;
+}
+
+}  // namespace
+
 std::string element_text(xml::element const& root)
 {
     std::string const text = saved_text(root);
@@ -65,15 +74,6 @@ std::string signed_element(xml::element root, std::string const& id)
     EXPECT_FALSE(stack.has_failed()) << stack.to_string();
     return element_text(root);
 }
-
-std::string digits(unsigned value, int width)
-{
-    char text[16];
-    std::snprintf(text, sizeof text, "%0*u", width, value);
-    return text;
-}
-
-}  // namespace
 
 std::string sefaz_answer::at(std::initializer_list<std::string_view> path) const
 {

@@ -69,6 +69,11 @@ std::string signed_document(erp::fiscal::nota_fiscal const& nota);
 std::string nfe_number(unsigned number);
 std::string nfce_number(unsigned number);
 
+// The element as text, without the XML declaration; and signed by the test
+// taxpayer, its child of that Id.
+std::string element_text(xml::element const& root);
+std::string signed_element(xml::element root, std::string const& id);
+
 // The 44 digits of the Id of infNFe of a document's text, and the values
 // between the first pair of tags of that name.
 std::string key_of(std::string const& document);

@@ -1,17 +1,22 @@
-// The road of a document to its authorization and of a range to its
-// disablement: the library's services against the simulator of this build,
-// which answers as an authority, over mutual TLS on the loopback. What the
-// authority refuses reaches the caller as the values of the answer.
+// The road of a document to its authorization, then to its events, and of a
+// range to its disablement: the library's services against the simulator of
+// this build, which answers as an authority, over mutual TLS on the loopback.
+// What the authority refuses reaches the caller as the values of the answer.
 #include <velk/erp/tarn/nfe/servico/autorizacao.hpp>
 #include <velk/erp/tarn/nfe/servico/consulta.hpp>
 #include <velk/erp/tarn/nfe/servico/consulta_gtin.hpp>
 #include <velk/erp/tarn/nfe/servico/consulta_recibo.hpp>
+#include <velk/erp/tarn/nfe/servico/evento.hpp>
 #include <velk/erp/tarn/nfe/servico/inutilizacao.hpp>
+#include <velk/erp/tarn/nfe/obter_grupo_status_resposta.hpp>
 
 #include "../documentos_teste.hpp"
+#include "../sefaz_data/requisicao/evento_teste.hpp"
 #include "servicos_teste.hpp"
 
+#include <support/files.hpp>
 #include <support/report.hpp>
+#include <support/schema.hpp>
 #include <support/xml_text.hpp>
 
 #include <gtest/gtest.h>
@@ -103,6 +108,25 @@ struct autoridade {
             requisicao::consulta::from_data(chave, nfe::versao::versao_4_00, ambiente::homologacao));
     }
 
+    // The events signed by the test taxpayer, in one batch. Every answer is
+    // valid by the schema of the batch's answer.
+    resposta::lote_evento registrar(std::vector<requisicao::evento> eventos) const
+    {
+        requisicao::lote_evento lote;
+        lote.set_id_lote(7);
+        stack s;
+        for (requisicao::evento& evento : eventos) {
+            evento.assinar(velk::test::taxpayer_pkcs12(), s);
+            lote.append(evento);
+        }
+        EXPECT_FALSE(s.has_failed()) << s.to_string();
+        resposta::lote_evento answer = call<nfe::servico::evento>(lote);
+        EXPECT_EQ(velk::test::validate_against_schema(velk::test::schema_dir() / "retEnvEvento_v1.00.xsd",
+                                                      answer.get_xml()),
+                  std::vector<std::string>());
+        return answer;
+    }
+
     resposta::inutilizacao inutilizar(unsigned inicial, unsigned final_) const
     {
         stack s;
@@ -137,6 +161,21 @@ requisicao::documento_fiscal alterado(requisicao::documento_fiscal const& docume
     auto read = requisicao::documento_fiscal::from_xml(velk::test::parse_element(text), s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     return read;
+}
+
+// The batch of events as the caller reads it: status and reason of the batch
+// and of each event, with the status group of each.
+std::string lido(resposta::lote_evento const& lote)
+{
+    std::string line = lido(lote.get_codigo_status(), lote.get_motivo()) + " (" +
+                       std::to_string(nfe::obter_grupo_status_resposta(lote)) + ")";
+    for (resposta::resposta_evento const& evento : lote.get_eventos()) {
+        resposta::retorno_evento const& r =
+            velk::core::visit([](auto const& each) -> resposta::retorno_evento const& { return each; }, evento);
+        line += " [" + lido(r.get_codigo_status(), r.get_motivo(), r.get_numero_protocolo(), true) + " (" +
+                std::to_string(nfe::obter_grupo_status_resposta(evento)) + ")]";
+    }
+    return line;
 }
 
 TEST(autoridade, an_nfce_authorized_at_once_and_found_by_its_key)
@@ -184,6 +223,17 @@ struct recusa {
     std::function<std::string(autoridade const&)> pedir;
     std::string lido;
 };
+
+// Each case against an authority of its own options.
+template <std::size_t N>
+void conferir(recusa const (&casos)[N])
+{
+    for (recusa const& each : casos) {
+        SCOPED_TRACE(each.caso);
+        autoridade const sefaz(each.opcoes);
+        EXPECT_EQ(each.pedir(sefaz), each.lido);
+    }
+}
 
 TEST(autoridade, each_refusal_reaches_the_caller_as_the_answer_says_it)
 {
@@ -245,11 +295,7 @@ TEST(autoridade, each_refusal_reaches_the_caller_as_the_answer_says_it)
          },
          "563 Rejeição: Já existe pedido de Inutilização com a mesma faixa de inutilização -"},
     };
-    for (recusa const& each : recusas) {
-        SCOPED_TRACE(each.caso);
-        autoridade const sefaz(each.opcoes);
-        EXPECT_EQ(each.pedir(sefaz), each.lido);
-    }
+    conferir(recusas);
 }
 
 TEST(autoridade, a_range_disabled_and_a_product_of_the_catalogue)
@@ -277,6 +323,153 @@ TEST(autoridade, a_range_disabled_and_a_product_of_the_catalogue)
     EXPECT_EQ(lido(desconhecido.get_codigo_status(), desconhecido.get_motivo()),
               "9494 Rejeição: GTIN não encontrado no Cadastro Centralizado de GTIN");
     EXPECT_FALSE(desconhecido.get_desc_produto().has_value());
+}
+
+// The events of the test notes, made by the library.
+requisicao::evento evento_de(requisicao::cancelamento const& payload, chave_acesso const& chave)
+{
+    stack s;
+    auto made = requisicao::evento::from_data(payload, chave, ambiente::homologacao, velk::test::momento_evento(), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return made;
+}
+
+requisicao::evento cancelamento(requisicao::documento_fiscal const& documento, unsigned long long protocolo)
+{
+    stack s;
+    return evento_de(requisicao::cancelamento::from_data("Venda desfeita a pedido do cliente", protocolo, s),
+                     documento.get_chave_acesso());
+}
+
+// The NFC-e replaced by the one of the key given, issued offline.
+requisicao::evento substituicao(requisicao::documento_fiscal const& documento, unsigned long long protocolo)
+{
+    stack s;
+    return evento_de(requisicao::cancelamento::from_data("Venda registrada em contingencia", protocolo, 35, "pdv",
+                                                         velk::test::chave_de_texto(velk::test::chave_nfce_offline), s),
+                     documento.get_chave_acesso());
+}
+
+requisicao::evento carta(requisicao::documento_fiscal const& documento, unsigned sequencia)
+{
+    stack s;
+    auto made = requisicao::evento::from_data(
+        requisicao::carta_correcao::from_data("Endereco de entrega: Rua das Flores, 100", s),
+        documento.get_chave_acesso(), ambiente::homologacao, velk::test::momento_evento(), sequencia, s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return made;
+}
+
+requisicao::evento epec(requisicao::documento_fiscal const& documento)
+{
+    stack s;
+    auto const dest = requisicao::epec_nfe::destinatario::from_data(
+        estado::rj, requisicao::epec_nfe::destinatario::cnpj{"11222333000181"}, "",
+        {velk::core::decimal(5321, -2), velk::core::decimal(0, 0), velk::core::decimal(0, 0)}, s);
+    auto made = requisicao::evento::from_data(
+        requisicao::epec_nfe::from_data(estado::sp, velk::test::momento_evento(), 1, "111222333444", dest, s),
+        documento.get_chave_acesso(), ambiente::homologacao, velk::test::momento_evento(), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return made;
+}
+
+requisicao::evento ciencia(requisicao::documento_fiscal const& documento)
+{
+    stack s;
+    auto made = requisicao::evento::from_data(
+        requisicao::manifestacao_destinatario::from_data(
+            requisicao::manifestacao_destinatario::tipo_manifestacao::ciencia_operacao, s),
+        documento.get_chave_acesso(), ambiente::homologacao, velk::test::momento_evento(), s);
+    EXPECT_FALSE(s.has_failed()) << s.to_string();
+    return made;
+}
+
+// The protocol number of the document, authorized at once.
+unsigned long long autorizado(autoridade const& sefaz, requisicao::documento_fiscal const& documento)
+{
+    auto const lote = sefaz.autorizar({documento}, true);
+    return lote.get_protocolos().empty() ? 0 : lote.get_protocolos().front().get_numero_protocolo().value_or(0);
+}
+
+TEST(autoridade, each_event_registered_or_refused_reaches_the_caller_as_the_answer_says_it)
+{
+    std::string const processado = "128 Lote de Evento Processado (0) ";
+    std::string const registrado = "135 Evento registrado e vinculado a NF-e nProt (0)";
+    std::string const duplicado = "573 Rejeição: Duplicidade de Evento - (3)";
+    recusa const casos[] = {
+        {"a cancellation of a note authorized, then the same again", {},
+         [](autoridade const& sefaz) {
+             auto const nota = nfce(1201);
+             auto const evento = cancelamento(nota, autorizado(sefaz, nota));
+             std::string const primeiro = lido(sefaz.registrar({evento}));
+             return primeiro + " | " + lido(sefaz.registrar({evento}));
+         },
+         processado + "[" + registrado + "] | " + processado + "[" + duplicado + "]"},
+        {"a cancellation naming another protocol", {},
+         [](autoridade const& sefaz) {
+             auto const nota = nfce(1202);
+             return lido(sefaz.registrar({cancelamento(nota, autorizado(sefaz, nota) + 1)}));
+         },
+         processado + "[222 Rejeição: Protocolo de Autorização de Uso difere do cadastrado - (3)]"},
+        {"a cancellation of a key never authorized", {},
+         [](autoridade const& sefaz) { return lido(sefaz.registrar({cancelamento(nfce(1203), 135240000000001)})); },
+         processado + "[217 Rejeição: NF-e não consta na base de dados da SEFAZ - (3)]"},
+        {"a cancellation by substitution, then a correction letter of the note cancelled", {},
+         [](autoridade const& sefaz) {
+             auto const nota = nfce(1204);
+             std::string line = lido(sefaz.registrar({substituicao(nota, autorizado(sefaz, nota))}));
+             return line + " | " + lido(sefaz.registrar({carta(nota, 1)}));
+         },
+         processado + "[" + registrado + "] | " + processado +
+             "[580 Rejeição: O evento exige uma NF-e autorizada - (3)]"},
+        {"correction letters: the next sequence, and the same one again", {},
+         [](autoridade const& sefaz) {
+             auto const nota = nfe_55(2201);
+             autorizado(sefaz, nota);
+             std::string const primeiro = lido(sefaz.registrar({carta(nota, 1), carta(nota, 2)}));
+             return primeiro + " | " + lido(sefaz.registrar({carta(nota, 2)}));
+         },
+         processado + "[" + registrado + "] [" + registrado + "] | " + processado + "[" + duplicado + "]"},
+        {"an EPEC before its note, and the recipient's awareness of a note held", {},
+         [](autoridade const& sefaz) {
+             auto const nota = nfe_55(2202);
+             autorizado(sefaz, nota);
+             return lido(sefaz.registrar({epec(nfe_55(2203)), ciencia(nota)}));
+         },
+         processado + "[136 Evento registrado, mas não vinculado a NF-e nProt (0)] [" + registrado + "]"},
+        {"an event of homologation to production", {"--ambiente", "1"},
+         [](autoridade const& sefaz) { return lido(sefaz.registrar({ciencia(nfe_55(2204))})); },
+         processado + "[252 Rejeição: Ambiente informado diverge do Ambiente de recebimento - (3)]"},
+        {"a service stopped", {"--stopped", "indefinite"},
+         [](autoridade const& sefaz) { return lido(sefaz.registrar({ciencia(nfe_55(2205))})); },
+         "109 Serviço Paralisado sem Previsão (2)"},
+        {"the authority's own failure", {"--fault", "unknown-error"},
+         [](autoridade const& sefaz) { return lido(sefaz.registrar({ciencia(nfe_55(2206))})); },
+         "999 Rejeição: Erro não catalogado (1)"},
+    };
+    conferir(casos);
+}
+
+TEST(autoridade, a_cancelled_note_is_told_cancelled_with_its_events)
+{
+    autoridade const sefaz;
+    auto const nota = nfe_55(2301);
+    unsigned long long const protocolo = autorizado(sefaz, nota);
+    sefaz.registrar({carta(nota, 1), ciencia(nota)});
+    sefaz.registrar({cancelamento(nota, protocolo)});
+    resposta::consulta const consulta = sefaz.consultar(nota.get_chave_acesso());
+    EXPECT_EQ(lido(consulta.get_codigo_status(), consulta.get_motivo()), "101 Cancelamento de NF-e homologado");
+    EXPECT_EQ(nfe::obter_grupo_status_resposta(consulta), 0);
+    ASSERT_TRUE(consulta.get_protocolo_nfe().has_value());
+    EXPECT_EQ(consulta.get_protocolo_nfe()->get_numero_protocolo().value_or(0), protocolo);
+    std::vector<std::string> tipos;
+    velk::xml::element const resposta_xml = consulta.get_xml();
+    for (velk::xml::node const& child : resposta_xml.get_node_range()) {
+        if (child.as_element() != nullptr && child.as_element()->get_name() == "procEventoNFe") {
+            tipos.push_back(velk::test::first_element_named(*child.as_element(), "tpEvento")->get_contents());
+        }
+    }
+    EXPECT_EQ(tipos, (std::vector<std::string>{"110110", "210210", "110111"}));
 }
 
 }  // namespace
