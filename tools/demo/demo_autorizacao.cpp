@@ -1,7 +1,7 @@
 #include "demo_archive.hpp"
 #include "demo_certificate.hpp"
 #include "demo_notas.hpp"
-#include "demo_simulator.hpp"
+#include "demo_authority.hpp"
 #include "demo_steps.hpp"
 #include "demo_xml.hpp"
 
@@ -28,92 +28,28 @@ namespace resposta = nfe::sefaz_data::resposta;
 using erp::tarn::ambiente;
 using erp::tarn::modelo;
 
-// The issuer's side of the road: its certificate for the TLS connection and
-// the services it calls, and the simulator that stands for the authority.
-// Every exchange leaves its request (the envelope as it reached the
-// authority) and its answer in the output folder.
-class emissor {
-public:
-    emissor(demo_context& context, demo_simulator const& simulator) : context_(context), simulator_(simulator)
-    {
-        core::result::stack stack;
-        cryptography::pkcs12 const tls = cryptography::pkcs12::from_byte_array(
-            simulator.pki().client_pkcs12(), simulator.pki().password(), stack);
-        check(stack, "authorization step, TLS certificate");
-        std::string const ca = simulator.pki().ca_file().string();
-        setup(autorizacao_, tls, ca);
-        setup(recibo_, tls, ca);
-        setup(consulta_, tls, ca);
-        setup(inutilizacao_, tls, ca);
-        setup(gtin_, tls, ca);
-    }
+// The issuer's calls of the road; each leaves its messages under autorizacao/.
+exchange_files arquivos(std::string const& nome, char const* pedido, char const* resposta, char const* layout,
+                        bool assinado, char const* descricao)
+{
+    return {"autorizacao/" + nome, pedido, resposta, layout, assinado, std::string(resposta) == "retInutNFe",
+            descricao};
+}
 
-    resposta::lote_autorizacao autorizar(requisicao::lote_autorizacao const& lote, std::string const& nome)
-    {
-        return call(autorizacao_, lote, simulator_.server("NFeAutorizacao4", "nfeAutorizacaoLote"), nome, "enviNFe",
-                    "retEnviNFe");
-    }
-    resposta::lote_autorizacao consultar_recibo(unsigned long long recibo, std::string const& nome)
-    {
-        auto const pedido = requisicao::consulta_recibo::from_data(ambiente::homologacao, nfe::versao::versao_4_00,
-                                                                   recibo, erp::estado::sp, modelo::nfe);
-        return call(recibo_, pedido, simulator_.server("NFeRetAutorizacao4", "nfeRetAutorizacaoLote"), nome,
-                    "consReciNFe", "retConsReciNFe");
-    }
-    resposta::consulta consultar(erp::tarn::chave_acesso const& chave, std::string const& nome)
-    {
-        auto const pedido = requisicao::consulta::from_data(chave, nfe::versao::versao_4_00, ambiente::homologacao);
-        return call(consulta_, pedido, simulator_.server("NFeConsultaProtocolo4", "nfeConsultaNF"), nome, "consSitNFe",
-                    "retConsSitNFe");
-    }
-    resposta::inutilizacao inutilizar(requisicao::inutilizacao const& pedido, std::string const& nome)
-    {
-        return call(inutilizacao_, pedido, simulator_.server("NFeInutilizacao4", "nfeInutilizacaoNF"), nome,
-                    "inutNFe", "retInutNFe");
-    }
-    resposta::consulta_gtin consultar_gtin(std::string const& gtin, std::string const& nome)
-    {
-        return call(gtin_, requisicao::consulta_gtin::from_data(gtin), simulator_.server("ccgConsGtin", "ccgConsGTIN"),
-                    nome, "consGTIN", "retConsGTIN");
-    }
+resposta::lote_autorizacao autorizar(demo_authority& sefaz, requisicao::lote_autorizacao const& lote,
+                                     std::string const& nome)
+{
+    return sefaz.exchange(sefaz.autorizacao(), lote, "NFeAutorizacao4", "nfeAutorizacaoLote",
+                          arquivos(nome, "enviNFe", "retEnviNFe", "4.00", true, "a batch of signed documents"));
+}
 
-private:
-    template <class Service>
-    static void setup(Service& service, cryptography::pkcs12 const& tls, std::string const& ca)
-    {
-        service.set_auth(tls, ca);
-        service.set_timeout(std::chrono::seconds(10));
-    }
-
-    template <class Service, class Request>
-    typename Service::resposta_type call(Service const& service, Request const& pedido,
-                                         nfe::web_server_info servidor, std::string const& nome,
-                                         std::string const& tipo_pedido, std::string const& tipo_resposta)
-    {
-        servidor.set_namespace_header("sem_namespace");
-        core::result::stack stack;
-        auto resposta = service.executar(pedido, servidor, stack);
-        check(stack, ("authorization step, " + nome).c_str());
-        bool const assinado = tipo_pedido == "inutNFe" || tipo_pedido == "enviNFe";
-        context_.write({"autorizacao/" + nome + "-pedido.xml", "soap-envelope",
-                        tipo_pedido == "consGTIN" ? "1.00" : "4.00", "", "SP", assinado,
-                        "The SOAP 1.2 envelope with " + tipo_pedido + " as it reached the simulator"},
-                       simulator_.recorded_request(++exchanges_));
-        context_.write({"autorizacao/" + nome + "-resposta.xml", tipo_resposta, "", "", "SP", false,
-                        "The simulator's " + tipo_resposta + ", as the library read it"},
-                       to_text(resposta.get_xml(), nome.c_str()));
-        return resposta;
-    }
-
-    demo_context& context_;
-    demo_simulator const& simulator_;
-    unsigned exchanges_ = 0;
-    nfe::servico::autorizacao autorizacao_;
-    nfe::servico::consulta_recibo recibo_;
-    nfe::servico::consulta consulta_;
-    nfe::servico::inutilizacao inutilizacao_;
-    nfe::servico::consulta_gtin gtin_;
-};
+resposta::lote_autorizacao consultar_recibo(demo_authority& sefaz, unsigned long long recibo, std::string const& nome)
+{
+    auto const pedido = requisicao::consulta_recibo::from_data(ambiente::homologacao, nfe::versao::versao_4_00, recibo,
+                                                               erp::estado::sp, modelo::nfe);
+    return sefaz.exchange(sefaz.recibo(), pedido, "NFeRetAutorizacao4", "nfeRetAutorizacaoLote",
+                          arquivos(nome, "consReciNFe", "retConsReciNFe", "4.00", false, "the query by receipt"));
+}
 
 std::string texto(erp::tarn::chave_acesso const& chave)
 {
@@ -186,18 +122,16 @@ resposta::protocolo_nfe autorizado(resposta::lote_autorizacao const& lote)
 
 }  // namespace
 
-void run_authorization_step(demo_context& context)
+road_results run_authorization_step(demo_context& context, demo_authority& sefaz)
 {
     demo_context::say("authorization step: the whole road against the local SEFAZ simulator acting as authority");
-    demo_simulator const simulator("autorizacao");
-    emissor sefaz(context, simulator);
     core::result::stack stack;
     cryptography::pkcs12 const certificado = make_demo_certificate(stack);
     check(stack, "authorization step, certificate");
 
     demo_context::say("NFC-e, authorized synchronously (indSinc 1)");
     requisicao::documento_fiscal const nfce = documento_assinado(demo_nfce(), certificado);
-    resposta::lote_autorizacao const lote_nfce = sefaz.autorizar(lote_de(nfce, 1, true), "nfce-autorizacao");
+    resposta::lote_autorizacao const lote_nfce = autorizar(sefaz, lote_de(nfce, 1, true), "nfce-autorizacao");
     say_batch(lote_nfce);
     context.write({"autorizacao/nfce-65-nfeProc.xml", "nfeProc", "4.00", "65", "SP", true,
                    "The NFC-e with its QR code, signed, beside its authorization protocol"},
@@ -205,7 +139,7 @@ void run_authorization_step(demo_context& context)
 
     demo_context::say("NF-e, authorized asynchronously (indSinc 0) through its receipt");
     requisicao::documento_fiscal const nfe_55 = documento_assinado(demo_nfe(), certificado);
-    resposta::lote_autorizacao lote_nfe = sefaz.autorizar(lote_de(nfe_55, 2, false), "nfe-autorizacao");
+    resposta::lote_autorizacao lote_nfe = autorizar(sefaz, lote_de(nfe_55, 2, false), "nfe-autorizacao");
     say_batch(lote_nfe);
     if (!lote_nfe.get_numero_recibo()) {
         throw demo_failure{"authorization step: the asynchronous batch got no receipt"};
@@ -213,7 +147,7 @@ void run_authorization_step(demo_context& context)
     unsigned long long const recibo = *lote_nfe.get_numero_recibo();
     // Polling is the caller's: ask again while the batch is in processing.
     for (unsigned vez = 1; vez <= 5; ++vez) {
-        lote_nfe = sefaz.consultar_recibo(recibo, "nfe-recibo-" + std::to_string(vez));
+        lote_nfe = consultar_recibo(sefaz, recibo, "nfe-recibo-" + std::to_string(vez));
         say_batch(lote_nfe);
         if (lote_nfe.get_codigo_status() != 105) {
             break;
@@ -226,7 +160,7 @@ void run_authorization_step(demo_context& context)
 
     demo_context::say("query by access key of both");
     for (auto const& [documento, nome] : {std::pair{&nfce, "nfce-consulta"}, std::pair{&nfe_55, "nfe-consulta"}}) {
-        resposta::consulta const consulta = sefaz.consultar(documento->get_chave_acesso(), nome);
+        resposta::consulta const consulta = sefaz.query_by_key(documento->get_chave_acesso(), "autorizacao/" + std::string(nome), "the query by key");
         auto const p = consulta.get_protocolo_nfe();
         core::optional<unsigned long long> const numero = p ? p->get_numero_protocolo() : std::nullopt;
         demo_context::say("  " + texto(documento->get_chave_acesso()) + ": cStat " +
@@ -241,7 +175,9 @@ void run_authorization_step(demo_context& context)
     check(stack, "authorization step, disablement");
     pedido.assinar(certificado, stack);
     check(stack, "authorization step, disablement signature");
-    resposta::inutilizacao const inutilizado = sefaz.inutilizar(pedido, "inutilizacao");
+    resposta::inutilizacao const inutilizado =
+        sefaz.exchange(sefaz.inutilizacao(), pedido, "NFeInutilizacao4", "nfeInutilizacaoNF",
+                       arquivos("inutilizacao", "inutNFe", "retInutNFe", "4.00", true, "a range of numbers"));
     demo_context::say("  cStat " + std::to_string(inutilizado.get_codigo_status()) + " " + inutilizado.get_motivo() +
                       ", protocol " + protocolo(inutilizado.get_protocolo()));
     context.write({"autorizacao/inutilizacao-procInutNFe.xml", "procInutNFe", "4.00", "65", "SP", true,
@@ -249,10 +185,13 @@ void run_authorization_step(demo_context& context)
                   archive_disablement(pedido, inutilizado));
 
     demo_context::say("GTIN of the kettle sold in the NFC-e");
-    resposta::consulta_gtin const produto = sefaz.consultar_gtin("7891234567895", "gtin");
+    resposta::consulta_gtin const produto =
+        sefaz.exchange(sefaz.gtin(), requisicao::consulta_gtin::from_data("7891234567895"), "ccgConsGtin",
+                       "ccgConsGTIN", arquivos("gtin", "consGTIN", "retConsGTIN", "1.00", false, "a GTIN"));
     demo_context::say("  cStat " + std::to_string(produto.get_codigo_status()) + " " + produto.get_motivo() + ": " +
                       produto.get_desc_produto().value_or("-") + ", NCM " +
                       (produto.get_ncm() ? std::to_string(*produto.get_ncm()) : std::string("-")));
+    return {nfce, autorizado(lote_nfce), nfe_55, autorizado(lote_nfe), pedido, inutilizado};
 }
 
 }  // namespace velk::demo

@@ -39,8 +39,9 @@ int main(int argc, char** argv)
         velk::demo::run_status_step(context);
         velk::demo::run_generation_step(context);
         velk::demo::run_qrcode_step(context);
-        velk::demo::run_authorization_step(context);
-        velk::demo::run_events_step(context);
+        velk::demo::demo_authority authority(context);
+        velk::demo::road_results const road = velk::demo::run_authorization_step(context, authority);
+        velk::demo::run_events_step(authority, road);
         velk::demo::run_layout_3_10_step(context);
         context.write_manifest();
     } catch (velk::demo::demo_failure const& failure) {
