@@ -35,6 +35,9 @@ class demo_authority {
 public:
     explicit demo_authority(demo_context& context);
 
+    // The output folder the exchanges go to, for what a step keeps of them.
+    demo_context& context() { return context_; }
+
     erp::tarn::nfe::servico::autorizacao const& autorizacao() const { return autorizacao_; }
     erp::tarn::nfe::servico::consulta_recibo const& recibo() const { return recibo_; }
     erp::tarn::nfe::servico::consulta const& consulta() const { return consulta_; }

@@ -1,3 +1,4 @@
+#include "demo_archive.hpp"
 #include "demo_certificate.hpp"
 #include "demo_notas.hpp"
 #include "demo_authority.hpp"
@@ -6,7 +7,6 @@
 
 #include <velk/core/converter.hpp>
 #include <velk/cryptography/pkcs12.hpp>
-#include <velk/erp/tarn/nfe/namespace_nfe.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/url_consulta_qrcode.hpp>
 #include <velk/erp/tarn/nfe/servico/autorizacao.hpp>
 #include <velk/erp/tarn/nfe/servico/consulta.hpp>
@@ -98,19 +98,6 @@ requisicao::documento_fiscal documento_assinado(erp::fiscal::nota_fiscal const& 
     return documento;
 }
 
-// The document and its protocol side by side, as they are kept: nfeProc.
-std::string com_protocolo(requisicao::documento_fiscal const& documento, resposta::protocolo_nfe const& protocolo)
-{
-    core::result::stack stack;
-    xml::element processo("nfeProc");
-    processo.append_namespace(xml::namespace_id("", nfe::namespace_nfe), stack);
-    processo.append_attribute(xml::attribute("versao", "4.00"), stack);
-    processo.append_node(documento.get_xml());
-    processo.append_node(protocolo.get_xml());
-    check(stack, "authorization step, nfeProc");
-    return to_text(processo, "authorization step, nfeProc");
-}
-
 requisicao::lote_autorizacao lote_de(requisicao::documento_fiscal const& documento, unsigned long long id,
                                      bool sincrono)
 {
@@ -148,7 +135,7 @@ road_results run_authorization_step(demo_context& context, demo_authority& sefaz
     say_batch(lote_nfce);
     context.write({"autorizacao/nfce-65-nfeProc.xml", "nfeProc", "4.00", "65", "SP", true,
                    "The NFC-e with its QR code, signed, beside its authorization protocol"},
-                  com_protocolo(nfce, autorizado(lote_nfce)));
+                  archive_authorization(nfce, autorizado(lote_nfce)));
 
     demo_context::say("NF-e, authorized asynchronously (indSinc 0) through its receipt");
     requisicao::documento_fiscal const nfe_55 = documento_assinado(demo_nfe(), certificado);
@@ -169,7 +156,7 @@ road_results run_authorization_step(demo_context& context, demo_authority& sefaz
     }
     context.write({"autorizacao/nfe-55-nfeProc.xml", "nfeProc", "4.00", "55", "SP", true,
                    "The NF-e, signed, beside its authorization protocol"},
-                  com_protocolo(nfe_55, autorizado(lote_nfe)));
+                  archive_authorization(nfe_55, autorizado(lote_nfe)));
 
     demo_context::say("query by access key of both");
     for (auto const& [documento, nome] : {std::pair{&nfce, "nfce-consulta"}, std::pair{&nfe_55, "nfe-consulta"}}) {
@@ -193,6 +180,9 @@ road_results run_authorization_step(demo_context& context, demo_authority& sefaz
                        arquivos("inutilizacao", "inutNFe", "retInutNFe", "4.00", true, "a range of numbers"));
     demo_context::say("  cStat " + std::to_string(inutilizado.get_codigo_status()) + " " + inutilizado.get_motivo() +
                       ", protocol " + protocolo(inutilizado.get_protocolo()));
+    context.write({"autorizacao/inutilizacao-procInutNFe.xml", "procInutNFe", "4.00", "65", "SP", true,
+                   "The signed disablement of the NFC-e numbers 3 to 9 beside the authority's answer"},
+                  archive_disablement(pedido, inutilizado));
 
     demo_context::say("GTIN of the kettle sold in the NFC-e");
     resposta::consulta_gtin const produto =

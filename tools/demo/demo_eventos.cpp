@@ -1,3 +1,4 @@
+#include "demo_archive.hpp"
 #include "demo_certificate.hpp"
 #include "demo_steps.hpp"
 #include "demo_xml.hpp"
@@ -45,8 +46,18 @@ resposta::lote_evento registrar(demo_authority& sefaz, requisicao::evento evento
     requisicao::lote_evento lote;
     lote.set_id_lote(id_lote);
     lote.append(evento);
-    return sefaz.exchange(sefaz.evento(), lote, "NFeRecepcaoEvento4", "nfeRecepcaoEvento",
-                          {"eventos/" + nome, "envEvento", "retEnvEvento", "1.00", true, true, descricao});
+    resposta::lote_evento const resultado =
+        sefaz.exchange(sefaz.evento(), lote, "NFeRecepcaoEvento4", "nfeRecepcaoEvento",
+                       {"eventos/" + nome, "envEvento", "retEnvEvento", "1.00", true, true, descricao});
+    // A registered event is kept beside its answer, as the proof of it.
+    for (resposta::resposta_evento const& registro : resultado.get_eventos()) {
+        if (core::visit([](auto const& r) { return r.get_numero_protocolo().has_value(); }, registro)) {
+            sefaz.context().write({"eventos/" + nome + "-procEventoNFe.xml", "procEventoNFe", "1.00", "", "SP", true,
+                                   std::string("The signed event (") + descricao + ") beside the authority's answer"},
+                                  archive_event(evento, registro));
+        }
+    }
+    return resultado;
 }
 
 void say_events(resposta::lote_evento const& lote)
@@ -129,11 +140,7 @@ void run_events_step(demo_authority& sefaz, road_results const& road)
     for (auto const& [documento, nome] :
          {std::pair{&nfce, "nfce-consulta"}, std::pair{&nfe_55, "nfe-consulta"}}) {
         resposta::consulta const consulta = sefaz.query_by_key(documento->get_chave_acesso(), "eventos/" + std::string(nome), "the query by key, with the note's events");
-        xml::element const answer = consulta.get_xml();
-        unsigned eventos = 0;
-        for (xml::node const& child : answer.get_node_range()) {
-            eventos += child.as_element() != nullptr && child.as_element()->get_name() == "procEventoNFe" ? 1 : 0;
-        }
+        std::size_t const eventos = consulta.get_eventos().size();
         demo_context::say("  " + texto(documento->get_chave_acesso()) + ": cStat " +
                           std::to_string(consulta.get_codigo_status()) + " " + consulta.get_motivo() + ", " +
                           std::to_string(eventos) + " event(s)");

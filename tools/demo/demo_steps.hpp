@@ -38,11 +38,15 @@ struct road_results {
 // The road to authorization against the simulator acting as authority: an
 // NFC-e authorized synchronously, an NF-e through its receipt, the query by
 // key of both, a range of numbers disabled and a GTIN query; the documents
-// written beside their protocols.
+// written beside their protocols, and the disabled range beside its answer,
+// as the library archives them.
 road_results run_authorization_step(demo_context& context, demo_authority& sefaz);
 // The events of the notes of the authorization step, at the same authority:
 // the NFC-e cancelled, a correction letter and the recipient's confirmation
 // of the NF-e, and the query by key that tells them.
+// Registered events are archived beside their answers.
 void run_events_step(demo_authority& sefaz, road_results const& road);
+// The NF-e of the generation step in layout 3.10, signed.
+void run_layout_3_10_step(demo_context& context);
 
 }  // namespace velk::demo

@@ -43,6 +43,7 @@ int main(int argc, char** argv)
         velk::demo::demo_authority authority(context);
         velk::demo::road_results const road = velk::demo::run_authorization_step(context, authority);
         velk::demo::run_events_step(authority, road);
+        velk::demo::run_layout_3_10_step(context);
         context.write_manifest();
     } catch (velk::demo::demo_failure const& failure) {
         std::fprintf(stderr, "velk-demo: %s\n", failure.what.c_str());

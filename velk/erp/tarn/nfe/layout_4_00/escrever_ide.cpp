@@ -40,6 +40,7 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::ide const& ide, 
     xml::element e(tag);
     bool const escrito =
         u(e, "cUF", ide.cUF, stack, 0) && u(e, "cNF", ide.cNF, stack, 8) && txt(e, "natOp", ide.natOp, stack) &&
+        u(e, "indPag", ide.indPag, stack, 0) &&
         u(e, "mod", ide.mod, stack, 0) && u(e, "serie", ide.serie, stack, 0) && u(e, "nNF", ide.nNF, stack, 0) &&
         dh(e, "dhEmi", ide.dhEmi, stack) && dh(e, "dhSaiEnt", ide.dhSaiEnt, stack) &&
         u(e, "tpNF", ide.tpNF, stack, 0) && u(e, "idDest", ide.idDest, stack, 0) &&

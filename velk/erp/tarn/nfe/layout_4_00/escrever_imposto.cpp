@@ -171,7 +171,8 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQN const& g, 
 bool escrever(xml::element& pai, std::string const& tag, grupo::IPI const& ipi, core::result::stack& stack)
 {
     xml::element e(tag);
-    bool const escrito = (!ipi.CNPJProd || u(e, "CNPJProd", *ipi.CNPJProd, stack, 14)) &&
+    bool const escrito = txt(e, "clEnq", ipi.clEnq, stack) &&
+                         (!ipi.CNPJProd || u(e, "CNPJProd", *ipi.CNPJProd, stack, 14)) &&
                          txt(e, "cSelo", ipi.cSelo, stack) && u(e, "qSelo", ipi.qSelo, stack, 12) &&
                          u(e, "cEnq", ipi.cEnq, stack, 3) && escrever_alternativa(e, grupos_IPI, ipi.tributacao, stack);
     return anexar(pai, std::move(e), escrito);

@@ -75,7 +75,10 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::veicProd const& 
 bool escrever(xml::element& pai, std::string const& tag, grupo::med const& med, core::result::stack& stack)
 {
     xml::element e(tag);
-    bool const escrito = txt(e, "cProdANVISA", med.cProdANVISA, stack) &&
+    bool const escrito = (!med.lote || (txt(e, "nLote", med.lote->nLote, stack) &&
+                                        d(e, "qLote", med.lote->qLote, stack, 3) &&
+                                        dt(e, "dFab", med.lote->dFab, stack) && dt(e, "dVal", med.lote->dVal, stack))) &&
+                         txt(e, "cProdANVISA", med.cProdANVISA, stack) &&
                          txt(e, "xMotivoIsencao", med.xMotivoIsencao, stack) && d(e, "vPMC", med.vPMC, stack, 2);
     return anexar(pai, std::move(e), escrito);
 }
@@ -92,7 +95,8 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::comb const& comb
 {
     xml::element e(tag);
     bool const escrito =
-        u(e, "cProdANP", comb.cProdANP, stack, 9) && txt(e, "descANP", comb.descANP, stack) &&
+        u(e, "cProdANP", comb.cProdANP, stack, 9) && d(e, "pMixGN", comb.pMixGN, stack, 4) &&
+        txt(e, "descANP", comb.descANP, stack) &&
         d(e, "pGLP", comb.pGLP, stack, 4) && d(e, "pGNn", comb.pGNn, stack, 4) && d(e, "pGNi", comb.pGNi, stack, 4) &&
         d(e, "vPart", comb.vPart, stack, 2) && txt(e, "CODIF", comb.CODIF, stack) &&
         d(e, "qTemp", comb.qTemp, stack, 4) && txt(e, "UFCons", comb.UFCons, stack) &&

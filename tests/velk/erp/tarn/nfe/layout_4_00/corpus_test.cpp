@@ -3,9 +3,11 @@
 // and so does a tree with what only other sources fill.
 
 #include "layout_teste.hpp"
-#include "../assinado_teste.hpp"
+
+#include "../documento_verificado_teste.hpp"
 
 #include <support/corpus_notas.hpp>
+#include <support/xml_text.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <gtest/gtest.h>
@@ -19,7 +21,6 @@ namespace {
 using velk::core::result::stack;
 using velk::erp::tarn::nfe::versao;
 using velk::erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal;
-using velk::test::assinado_e_verificado;
 using velk::test::nota_do_corpus;
 
 class corpus : public testing::TestWithParam<nota_do_corpus> {};
@@ -29,7 +30,7 @@ TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
     stack report;
     documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    assinado_e_verificado(documento);
+    velk::test::assinado_e_verificado(documento, "nfe_v4.00.xsd");
 }
 
 // The manufacturer's CNPJ, which only other sources than the model fill,
@@ -46,7 +47,7 @@ TEST(corpus_arvore, the_manufacturers_cnpj_is_CNPJFab)
     stack report;
     documento_fiscal documento = documento_fiscal::from_xml(velk::test::documento_de(arvore), report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    std::string const texto = assinado_e_verificado(documento);
+    std::string const texto = velk::test::assinado_e_verificado(documento, "nfe_v4.00.xsd");
     EXPECT_NE(texto.find("<CEST>0107300</CEST><CNPJFab>92615847000107</CNPJFab><CFOP>"), std::string::npos) << texto;
 }
 

@@ -4,7 +4,7 @@
 // document by either.
 
 #include "notas_json_teste.hpp"
-#include "../assinado_teste.hpp"
+#include "../documento_verificado_teste.hpp"
 
 #include <support/corpus_notas.hpp>
 #include <support/xml_text.hpp>
@@ -46,7 +46,7 @@ TEST_P(corpus_json, signed_document_is_valid_for_the_schema_and_the_verifier)
     ASSERT_FALSE(report.has_failed()) << report.to_string();
     documento_fiscal documento = documento_fiscal::from_xml(xml, report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
-    velk::test::assinado_e_verificado(documento);
+    velk::test::assinado_e_verificado(documento, "nfe_v4.00.xsd");
 }
 
 INSTANTIATE_TEST_SUITE_P(notas, corpus_json, testing::ValuesIn(notas),

@@ -12,6 +12,8 @@ namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 
 // IPI of an item.
 struct IPI {
+    // Layout 3.10 only: the class of the cigarettes and drinks regime.
+    core::optional<std::string> clEnq;
     core::optional<std::uint64_t> CNPJProd;
     core::optional<std::string> cSelo;
     core::optional<std::uint64_t> qSelo;

@@ -13,6 +13,8 @@ namespace velk::erp::inline v4::tarn::nfe::layout_4_00::grupo {
 // A fuel sold in the item.
 struct comb {
     std::uint32_t cProdANP = 0;
+    // Layout 3.10 only: the share of natural gas in a GLP mix.
+    core::optional<core::decimal> pMixGN;
     std::string descANP;
     core::optional<core::decimal> pGLP;
     core::optional<core::decimal> pGNn;

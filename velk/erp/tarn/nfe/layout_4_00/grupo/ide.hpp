@@ -15,6 +15,8 @@ struct ide {
     std::uint16_t cUF = 0;
     std::uint32_t cNF = 0;
     std::string natOp;
+    // Layout 3.10 only: the form of payment of the whole note.
+    core::optional<std::uint16_t> indPag;
     std::uint16_t mod = 0;
     std::uint16_t serie = 0;
     std::uint32_t nNF = 0;

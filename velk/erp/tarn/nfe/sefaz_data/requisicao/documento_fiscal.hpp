@@ -51,7 +51,7 @@ public:
     // Generates the document of a note: the builder of the layout checks and
     // maps the model into a tree, the writer makes the XML, and from_xml reads
     // it back, so a generated document passes the same checks as one read from
-    // disk. Layout 4.00 only: any other version is code 6. A builder failure
+    // disk. Layouts 4.00 and 3.10; any other version is code 6. A builder failure
     // (processar_nota_result_category) leaves its report and a default object.
     static documento_fiscal from_nota_fiscal(fiscal::nota_fiscal const& nota, versao versao_layout,
                                              core::result::stack& stack);

@@ -1,6 +1,9 @@
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/consulta.hpp>
 
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
+#include <velk/xml/node.hpp>
+
+#include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 
@@ -11,6 +14,7 @@ struct consulta::dados {
     core::datetime data_recebimento;
     core::optional<chave_acesso> chave;
     core::optional<protocolo_nfe> protocolo;
+    std::vector<distribuicao::evento> eventos;
     xml::element xml;
 };
 
@@ -27,6 +31,7 @@ std::string consulta::get_versao_aplicativo() const { return dados_->versao_apli
 core::datetime consulta::get_data_recebimento() const { return dados_->data_recebimento; }
 core::optional<chave_acesso> consulta::get_chave_acesso() const { return dados_->chave; }
 core::optional<protocolo_nfe> consulta::get_protocolo_nfe() const { return dados_->protocolo; }
+std::vector<distribuicao::evento> consulta::get_eventos() const { return dados_->eventos; }
 xml::element consulta::get_xml() const { return dados_->xml; }
 
 consulta consulta::from_xml(xml::element const& root, core::result::stack& stack)
@@ -55,6 +60,17 @@ consulta consulta::from_xml(xml::element const& root, core::result::stack& stack
             return resposta;
         }
         campos.protocolo = std::move(read);
+    }
+    for (xml::node const& filho : root.get_node_range()) {
+        xml::element const* elemento = filho.as_element();
+        if (elemento == nullptr || elemento->get_name() != "procEventoNFe") {
+            continue;
+        }
+        distribuicao::evento evento = distribuicao::evento::from_xml(*elemento, stack);
+        if (stack.has_failed()) {
+            return resposta;
+        }
+        campos.eventos.push_back(std::move(evento));
     }
     return resposta;
 }

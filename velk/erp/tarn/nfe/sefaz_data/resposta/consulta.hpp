@@ -5,11 +5,13 @@
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/distribuicao/evento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/protocolo_nfe.hpp>
 #include <velk/xml/document.hpp>
 #include <velk/xml/element.hpp>
 
 #include <string>
+#include <vector>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 
@@ -34,6 +36,9 @@ public:
     // chNFe and protNFe (optional).
     core::optional<chave_acesso> get_chave_acesso() const;
     core::optional<protocolo_nfe> get_protocolo_nfe() const;
+    // The events registered about the document (each procEventoNFe), in the
+    // order of the answer.
+    std::vector<distribuicao::evento> get_eventos() const;
     // A copy of the element read, unchanged; an element with an empty name
     // when nothing was read.
     xml::element get_xml() const;
@@ -42,7 +47,8 @@ public:
     // required tag is code 1 ("retConsSitNFe/" and the tag), a value that does
     // not read code 2 over the converter's failure (chNFe too:
     // "retConsSitNFe/chNFe"); the protocol's failures are those of
-    // protocolo_nfe::from_xml. Reading stops at the first failure and keeps
+    // protocolo_nfe::from_xml, those of an event those of
+    // distribuicao::evento::from_xml. Reading stops at the first failure and keeps
     // what was read, and the tree in any case. Neither versao nor tpAmb is
     // read.
     static consulta from_xml(xml::element const& root, core::result::stack& stack);

@@ -137,12 +137,13 @@ TEST(lote_autorizacao, documents_come_in_only_in_the_batch_version)
     lote.get_primeiro_documento(s);
     EXPECT_EQ(report_line(s), "erp-tarn-sefaz-data 7") << "nothing was appended";
 
-    // A note is generated in the batch's version, without signature: layout
-    // 3.10 is not made from a note.
-    lote.append_documento_fiscal(velk::test::nota_nfce_simples(), s);
-    EXPECT_EQ(report_line(s), "erp-tarn-sefaz-data 6");
-    lote_autorizacao nova = lote_4_00();
+    // A note is generated in the batch's version, without signature: 3.10
+    // here, 4.00 in a batch of 4.00.
     s.reset();
+    lote.append_documento_fiscal(velk::test::nota_nfce_simples(), s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    EXPECT_EQ(lote.get_primeiro_documento(s).get_versao(), velk::erp::tarn::nfe::versao::versao_3_10);
+    lote_autorizacao nova = lote_4_00();
     nova.append_documento_fiscal(velk::test::nota_nfe_completa(), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(velk::test::child_element_names(nova.get_primeiro_documento(s).get_xml()),
