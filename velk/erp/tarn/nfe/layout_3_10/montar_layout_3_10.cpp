@@ -70,20 +70,15 @@ fiscal::nota_fiscal so_o_que_3_10_le(fiscal::nota_fiscal nota)
 }
 
 // The ICMS group of an item in 3.10: ICMSSN900 without the credit the
-// builder of 3.10 never read; ICMSST only of the CST it has.
-bool icms_3_10(grupo::imposto& imposto, core::result::stack& stack)
+// builder of 3.10 never read.
+void icms_3_10(grupo::imposto& imposto)
 {
     auto* icms = std::get_if<grupo::ICMS>(&imposto.ICMS_ou_ISSQN.base());
-    if (icms == nullptr) {
-        return true;
-    }
-    if (auto* sn900 = std::get_if<grupo::ICMSSN900>(&icms->base())) {
+    auto* sn900 = icms == nullptr ? nullptr : std::get_if<grupo::ICMSSN900>(&icms->base());
+    if (sn900 != nullptr) {
         sn900->pCredSN.reset();
         sn900->vCredICMSSN.reset();
     }
-    auto const* repasse = std::get_if<grupo::ICMSST>(&icms->base());
-    return repasse == nullptr || repasse->CST == cst_repasse_3_10 ||
-           layout_4_00::recusar<codigo::cst_icms_invalido>(stack, static_cast<unsigned int>(repasse->CST));
 }
 
 // The vehicles whose plate 3.10 cannot hold are left out: the groups are
@@ -97,7 +92,7 @@ void veiculos_3_10(grupo::transp& transp)
 }
 
 // IPI's clEnq and the GLP mix of comb, read only here.
-bool montar_item_3_10(fiscal::produto const& produto, grupo::det& det, core::result::stack& stack)
+void montar_item_3_10(fiscal::produto const& produto, grupo::det& det)
 {
     auto const ipi = produto.get_tributacao_ipi();
     if (ipi && det.imposto.IPI) {
@@ -111,7 +106,7 @@ bool montar_item_3_10(fiscal::produto const& produto, grupo::det& det, core::res
                            glp->get_percentual_gas_natural_nacional().value_or(core::decimal());
         }
     }
-    return icms_3_10(det.imposto, stack);
+    icms_3_10(det.imposto);
 }
 
 bool montar_3_10(fiscal::nota_fiscal const& nota, layout_3_10& arvore, core::result::stack& stack)
@@ -126,14 +121,8 @@ bool montar_3_10(fiscal::nota_fiscal const& nota, layout_3_10& arvore, core::res
     arvore.emit.CNAE.reset();
     std::vector<fiscal::produto> const produtos = nota.get_produtos();
     for (std::size_t i = 0; i < produtos.size() && i < arvore.det.size(); ++i) {
-        if (!montar_item_3_10(produtos[i], arvore.det[i], stack)) {
-            return false;
-        }
+        montar_item_3_10(produtos[i], arvore.det[i]);
     }
-    if (arvore.transp.modFrete < std::size(modFrete_3_10)) {
-        arvore.transp.modFrete = modFrete_3_10[arvore.transp.modFrete];
-    }
-    veiculos_3_10(arvore.transp);
     arvore.total.retTrib.reset();
     if (arvore.infAdic) {
         arvore.infAdic->procRef.clear();
@@ -143,6 +132,24 @@ bool montar_3_10(fiscal::nota_fiscal const& nota, layout_3_10& arvore, core::res
     if (nota.get_informacoes_pagamento().get_detalhes_pagamento().empty()) {
         arvore.pag.detPag.clear();
     }
+    return codigos_do_3_10(arvore, stack);
+}
+
+}  // namespace
+
+bool codigos_do_3_10(layout_3_10& arvore, core::result::stack& stack)
+{
+    for (grupo::det const& det : arvore.det) {
+        auto const* icms = std::get_if<grupo::ICMS>(&det.imposto.ICMS_ou_ISSQN.base());
+        auto const* repasse = icms == nullptr ? nullptr : std::get_if<grupo::ICMSST>(&icms->base());
+        if (repasse != nullptr && repasse->CST != cst_repasse_3_10) {
+            return layout_4_00::recusar<codigo::cst_icms_invalido>(stack, static_cast<unsigned int>(repasse->CST));
+        }
+    }
+    if (arvore.transp.modFrete < std::size(modFrete_3_10)) {
+        arvore.transp.modFrete = modFrete_3_10[arvore.transp.modFrete];
+    }
+    veiculos_3_10(arvore.transp);
     for (grupo::detPag& pagamento : arvore.pag.detPag) {
         pagamento.tPag = conhecido_ou_outros(pagamento.tPag, tPag_3_10);
         if (pagamento.card && pagamento.card->tBand) {
@@ -151,8 +158,6 @@ bool montar_3_10(fiscal::nota_fiscal const& nota, layout_3_10& arvore, core::res
     }
     return true;
 }
-
-}  // namespace
 
 layout_3_10 montar_layout_3_10(fiscal::nota_fiscal const& nota, core::result::stack& stack)
 {

@@ -20,4 +20,13 @@ namespace velk::erp::inline v4::tarn::nfe::layout_3_10 {
 // processar_nota_result_category code on top of the stack and a default tree.
 layout_3_10 montar_layout_3_10(fiscal::nota_fiscal const& nota, core::result::stack& stack);
 
+// The codes of a tree built for 4.00 that 3.10 writes otherwise, whatever the
+// tree was built from: the means of payment and card brands 3.10 does not
+// know become 99, "other"; own transport (modFrete 3 and 4, later than 3.10)
+// is freight of the sender (0) or of the recipient (1); the vehicles whose
+// plate 3.10 cannot hold (the Mercosul plate) are left out. ICMSST holds only
+// CST 41 in 3.10: another is refused with cst_icms_invalido and the CST, and
+// false is returned.
+bool codigos_do_3_10(layout_3_10& arvore, core::result::stack& stack);
+
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_3_10

@@ -1,7 +1,7 @@
 #pragma once
 
 // The builders of the groups of layout 4.00 from a NotaFiscal, used by
-// generate_document_4_00. Each reads one part of the message into its record
+// generate_document_4_00 and generate_document_3_10. Each reads one part of the message into its record
 // of the tree and returns false at the first value it refuses, with the
 // refusal on top of the stack. Nothing is computed and nothing is chosen: the
 // message states every value and the tree takes it.
@@ -14,6 +14,10 @@
 namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
 
 namespace grupo = layout_4_00::grupo;
+
+// The whole tree but versao: Id, every group the message holds, in the
+// layout's order; false at the first refusal, which ends the reading.
+bool montar_nota(mensagem::NotaFiscal const& nota, layout_4_00::layout_4_00& arvore, core::result::stack& stack);
 
 bool montar_ide(mensagem::NotaFiscal const& nota, grupo::ide& ide, core::result::stack& stack);
 bool montar_emit(mensagem::Emitente const& emitente, grupo::emit& emit, core::result::stack& stack);
