@@ -4,11 +4,46 @@
 #include <velk/erp/tarn/nfe/qrcode/detail/partes_qrcode.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_100.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/qrcode_versao_200.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/url_qrcode.hpp>
 #include <velk/erp/tarn/nfe/qrcode/processo_gerar_qrcode_result_category.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
-#include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe {
+
+namespace detail {
+
+std::string url_qrcode(informacoes_adicionais const& informacoes,
+                       sefaz_data::requisicao::documento_fiscal const& documento, std::string const& id_token,
+                       std::string const& csc, core::result::stack& stack)
+{
+    core::optional<std::string> existente = documento.get_qrcode_value();
+    if (existente.has_value()) {
+        return std::move(existente).value();
+    }
+    if (texto_da_versao(informacoes.get_versao_qrcode()) == nullptr) {
+        core::result::fresh<processo_gerar_qrcode_result_category::versao_nao_suportada>(
+            stack, static_cast<int>(informacoes.get_versao_qrcode()));
+        return {};
+    }
+    // The page goes into the document with the QR string, in a CDATA section.
+    if (!verificar_pagina(informacoes, stack)) {
+        return {};
+    }
+
+    bool const versao_100 = informacoes.get_versao_qrcode() == versao_qrcode::versao_100;
+    // The digest, a canonical form and a hash of the whole infNFe, is made
+    // only for the QR codes that carry it: every one of version 1.00, and the
+    // offline one of 2.00.
+    bool const com_digest =
+        versao_100 || documento.get_chave_acesso().get_tipo_emissao() == fiscal::tipo_emissao::contingencia_offline_nfce;
+    std::string const digest = com_digest ? documento.get_digest_value() : std::string();
+    std::string const qrcode =
+        versao_100 ? gerar_qrcode_versao_100(documento, digest, id_token, csc, stack)
+                   : gerar_qrcode_versao_200(documento, digest, sem_zeros_a_esquerda(id_token), csc, stack);
+    return informacoes.get_url_qrcode() + qrcode;
+}
+
+}  // namespace detail
 
 std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::document const& documento,
                              std::string const& id_token, std::string const& csc, core::result::stack& stack)
@@ -19,35 +54,7 @@ std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::doc
     if (stack.has_failed()) {
         return {};
     }
-    core::optional<std::string> existente = fiscal.get_qrcode_value();
-    if (existente.has_value()) {
-        return std::move(existente).value();
-    }
-    // A missing element is what a document without a QR code may report on
-    // its way here: that one is forgiven, any other failure stops.
-    if (core::result::failed_with<sefaz_data::result_category::elemento_ausente>(stack)) {
-        stack.reset();
-    }
-    if (stack.has_failed()) {
-        return {};
-    }
-
-    if (detail::texto_da_versao(informacoes.get_versao_qrcode()) == nullptr) {
-        core::result::fresh<processo_gerar_qrcode_result_category::versao_nao_suportada>(
-            stack, static_cast<int>(informacoes.get_versao_qrcode()));
-        return {};
-    }
-    // The page goes into the document with the QR string, in a CDATA section.
-    if (!detail::verificar_pagina(informacoes, stack)) {
-        return {};
-    }
-
-    std::string const digest = fiscal.get_digest_value();
-    std::string const qrcode =
-        informacoes.get_versao_qrcode() == versao_qrcode::versao_100
-            ? detail::gerar_qrcode_versao_100(fiscal, digest, id_token, csc, stack)
-            : detail::gerar_qrcode_versao_200(fiscal, digest, detail::sem_zeros_a_esquerda(id_token), csc, stack);
-    return informacoes.get_url_qrcode() + qrcode;
+    return detail::url_qrcode(informacoes, fiscal, id_token, csc, stack);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe

@@ -150,9 +150,14 @@ documento_fiscal::~documento_fiscal() = default;
 
 documento_fiscal documento_fiscal::from_xml(xml::element const& elemento, core::result::stack& stack)
 {
+    return from_xml(xml::element(elemento), stack);
+}
+
+documento_fiscal documento_fiscal::from_xml(xml::element&& elemento, core::result::stack& stack)
+{
     documento_fiscal result;
     dados& data = *result.dados_;
-    data.xml = elemento;
+    data.xml = std::move(elemento);
     if (data.xml.get_name() != "NFe") {
         core::result::fresh<result_category::elemento_ausente>(stack, "NFe");
         return result;
@@ -183,6 +188,16 @@ documento_fiscal documento_fiscal::from_xml(xml::document const& documento, core
         return {};
     }
     return from_xml(*root, stack);
+}
+
+documento_fiscal documento_fiscal::from_xml(xml::document&& documento, core::result::stack& stack)
+{
+    xml::element* root = documento.get_root_element();
+    if (root == nullptr) {
+        core::result::fresh<result_category::documento_invalido>(stack);
+        return {};
+    }
+    return from_xml(std::move(*root), stack);
 }
 
 void documento_fiscal::assinar(cryptography::pkcs12 const& certificado, core::result::stack& stack)

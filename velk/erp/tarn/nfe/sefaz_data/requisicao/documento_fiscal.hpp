@@ -47,6 +47,10 @@ public:
     static documento_fiscal from_xml(xml::element const& elemento, core::result::stack& stack);
     // The same for the root of a document; a document without root is code 5.
     static documento_fiscal from_xml(xml::document const& documento, core::result::stack& stack);
+    // The same, taking the tree instead of copying it: for a document just
+    // generated, whose tree nobody else needs.
+    static documento_fiscal from_xml(xml::element&& elemento, core::result::stack& stack);
+    static documento_fiscal from_xml(xml::document&& documento, core::result::stack& stack);
 
     // Generates the document of a note: the builder of the layout checks and
     // maps the model into a tree, the writer makes the XML, and from_xml reads

@@ -7,6 +7,8 @@
 #include <velk/erp/tarn/nfe/layout_4_00/montar_layout_4_00.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 
+#include <utility>
+
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 namespace {
@@ -43,7 +45,7 @@ documento_fiscal documento_fiscal::from_nota_fiscal(fiscal::nota_fiscal const& n
     if (stack.has_failed()) {
         return documento_fiscal();
     }
-    return from_xml(documento, stack);
+    return from_xml(std::move(documento), stack);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao

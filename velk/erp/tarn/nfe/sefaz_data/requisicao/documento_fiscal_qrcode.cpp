@@ -3,7 +3,7 @@
 
 #include <velk/erp/tarn/nfe/qrcode/detail/partes_qrcode.hpp>
 #include <velk/erp/tarn/nfe/qrcode/detail/suplemento.hpp>
-#include <velk/erp/tarn/nfe/qrcode/obter_url_qrcode.hpp>
+#include <velk/erp/tarn/nfe/qrcode/detail/url_qrcode.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/documento_fiscal_dados.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
@@ -14,13 +14,9 @@ void documento_fiscal::gerar_qrcode(informacoes_adicionais const& informacoes, s
     dados& data = *dados_;
     xml::element& suplemento = nfe::detail::suplemento_de(data.xml);
 
-    // The address is made from the tree as it stands, through the same
-    // reading as any document handed in.
-    xml::document documento;
-    if (!documento.append_node(data.xml, stack)) {
-        return;
-    }
-    std::string url = obter_url_qrcode(informacoes, documento, id_token, csc, stack);
+    // The address is made from the values this object read from its tree,
+    // the reading any document handed in goes through.
+    std::string url = nfe::detail::url_qrcode(informacoes, *this, id_token, csc, stack);
     // The layout has no QR code without its urlChave: both are written.
     if (stack.has_failed() || !nfe::detail::verificar_url_chave(informacoes, stack)) {
         return;
