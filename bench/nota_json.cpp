@@ -1,7 +1,9 @@
 // The whole road of a point of sale that speaks JSON: the note's text read,
 // its document generated, the QR code made and the document signed, against
-// one RSA-2048 signature alone. The road should cost at most 1.3 times the
-// signature: parsing, building, writing and the QR code are small beside it.
+// one RSA-2048 signature alone. The aim is a road of at most 1.3 times the
+// signature. The parts below show where it stands: protobuf's reading of the
+// JSON text alone costs about one signature, most of it in its own parser and
+// in the types it rebuilds for every text it reads.
 #include "throwaway_certificate.hpp"
 
 #include <velk/erp/tarn/nfe/protobuf/generate_document.hpp>
