@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 
 #include <string>
 #include <string_view>
@@ -14,7 +15,7 @@ enum class binary_encoding : int {
 };
 
 // Text forms of bytes.
-class binary_encoder {
+class VELK_EXPORT binary_encoder {
 public:
     static std::string encode(binary_encoding encoding, byte_array const& bytes);
     // The inverse; false on a text that is not of the encoding (upper-case hex

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -10,7 +12,7 @@ inline namespace v3 {
 
 // A growable, contiguous sequence of bytes. Positions are pointers into the
 // array; they are invalidated by any operation that grows it.
-class byte_array {
+class VELK_EXPORT byte_array {
 public:
     using value_type = unsigned char;
     using iterator = unsigned char*;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
@@ -7,7 +8,7 @@ namespace velk::core {
 inline namespace v3 {
 
 // Failed conversions between values and text ("core-converter").
-class converter_result_category final : public result::table_category {
+class VELK_EXPORT converter_result_category final : public result::table_category {
 public:
     template <int N, class... Kinds>
     using row = result::row<converter_result_category, N, Kinds...>;

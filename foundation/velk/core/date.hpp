@@ -1,13 +1,14 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::core {
 inline namespace v3 {
 
 // A calendar date. The default date is day 0 of month 0 of year 0: a
 // placeholder, with no text form.
-class date {
+class VELK_EXPORT date {
 public:
     date() = default;
     date(unsigned int day, unsigned int month, int year) : day_(day), month_(month), year_(year) {}
@@ -30,12 +31,12 @@ private:
 // AAAA-MM-DD, the form of the NF-e date tags. A date that is not a real day
 // (or lies outside years 0 to 9999) has no text form.
 template <>
-struct chars_converter<date> {
+struct VELK_EXPORT chars_converter<date> {
     static converter_status make_chars(char* buffer, unsigned long& size, date const& value);
 };
 
 template <>
-struct value_converter<date> {
+struct VELK_EXPORT value_converter<date> {
     static converter_status make_value(date& value, char const* text, unsigned long size);
 };
 

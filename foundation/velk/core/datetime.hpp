@@ -2,6 +2,7 @@
 
 #include <velk/core/converter.hpp>
 #include <velk/core/date.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/time.hpp>
 
 namespace velk::core {
@@ -11,7 +12,7 @@ inline namespace v3 {
 //
 // The offset is in MINUTES east of UTC: Brasília time (UTC-03:00) is -180,
 // Fernando de Noronha (UTC-02:00) is -120. It is written as "+hh:mm"/"-hh:mm".
-class datetime {
+class VELK_EXPORT datetime {
 public:
     datetime() = default;
     datetime(date const& day, time const& clock, int utc_offset_minutes)
@@ -35,7 +36,7 @@ private:
 // not written. Invalid dates, times, or offsets of a day or more have no text
 // form.
 template <>
-struct chars_converter<datetime> {
+struct VELK_EXPORT chars_converter<datetime> {
     static converter_status make_chars(char* buffer, unsigned long& size, datetime const& value);
 };
 
@@ -43,7 +44,7 @@ struct chars_converter<datetime> {
 // (offset 0, as some older answers write dhRecbto), with optional fractional
 // seconds after the seconds.
 template <>
-struct value_converter<datetime> {
+struct VELK_EXPORT value_converter<datetime> {
     static converter_status make_value(datetime& value, char const* text, unsigned long size);
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/string_view.hpp>
 
 #include <string>
@@ -15,7 +16,7 @@ inline namespace v3 {
 // rounded half away from zero (2.345 -> "2.35", -2.345 -> "-2.35"); with
 // fewer places it is padded with zeros. A zero result is never written with a
 // minus sign.
-class decimal {
+class VELK_EXPORT decimal {
 public:
     decimal() = default;
     decimal(long long unscaled, short exponent);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 namespace velk::core {
 inline namespace v3 {
 
@@ -7,7 +9,7 @@ inline namespace v3 {
 // a valueless variant visited, a code number without a message). Bad data never
 // comes here: it travels on a result::stack. The message goes to stderr as it
 // stands, without a line ending, and the process exits with status 1.
-[[noreturn]] void fatal_exit(char const* message);
+[[noreturn]] VELK_EXPORT void fatal_exit(char const* message);
 
 }  // namespace v3
 }  // namespace velk::core

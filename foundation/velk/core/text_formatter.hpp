@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/string_view.hpp>
 
 #include <string>
@@ -17,7 +18,7 @@ inline namespace v3 {
 // The formatter never fails an operation: a bad placeholder turns into one of
 // the texts "<name: Parameter parser error>", "<name: Invalid param>" or
 // "<name: Invalid value>" and the text goes on.
-class text_formatter {
+class VELK_EXPORT text_formatter {
 public:
     class argument {
     public:

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 namespace velk::core {
 inline namespace v3 {
 
 // A time of day, to the millisecond.
-class time {
+class VELK_EXPORT time {
 public:
     time() = default;
     time(int hours, unsigned int minutes, unsigned int seconds, unsigned int milliseconds)

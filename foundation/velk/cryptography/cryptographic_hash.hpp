@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 
 #include <cstddef>
@@ -13,7 +14,7 @@ inline namespace v3 {
 // A running message digest: feed bytes with update, read the digest with
 // finish. finish works on a copy of the running state, so more bytes may be
 // fed afterwards and finish called again.
-class cryptographic_hash {
+class VELK_EXPORT cryptographic_hash {
 public:
     enum class algorithm : int {
         sha1 = 0,

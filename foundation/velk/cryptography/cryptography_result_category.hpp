@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -10,7 +11,7 @@ inline namespace v3 {
 // Failures of the certificate, key, hash and XML signature operations
 // ("velk-cryptography"). Passwords and key material never appear in
 // arguments; "description" holds the reason given by OpenSSL or libxml2.
-class cryptography_result_category final : public core::result::table_category {
+class VELK_EXPORT cryptography_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<cryptography_result_category, N, Kinds...>;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
 #include <velk/cryptography/encoding.hpp>
@@ -12,7 +13,7 @@ inline namespace v3 {
 
 // A private key, immutable. Copies share it. Only RSA, DSA, DH and EC keys are
 // accepted, so get_type always has an answer for a key that is not empty.
-class evp_private_key {
+class VELK_EXPORT evp_private_key {
 public:
     enum class type : int {
         rsa = 0,

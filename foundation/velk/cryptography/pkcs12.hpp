@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/evp_private_key.hpp>
 #include <velk/cryptography/x509_certificate.hpp>
@@ -13,7 +14,7 @@ inline namespace v3 {
 
 // A taxpayer's A1 certificate: the certificate and its private key, as read
 // from a PKCS#12 file (.pfx, .p12). Immutable; copies share the contents.
-class pkcs12 {
+class VELK_EXPORT pkcs12 {
 public:
     // An empty container: both getters give empty objects.
     pkcs12();

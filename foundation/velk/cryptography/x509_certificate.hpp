@@ -2,6 +2,7 @@
 
 #include <velk/core/byte_array.hpp>
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/encoding.hpp>
 
@@ -14,7 +15,7 @@ inline namespace v3 {
 class evp_private_key;
 
 // An X.509 certificate, immutable. Copies share it.
-class x509_certificate {
+class VELK_EXPORT x509_certificate {
 public:
     // An empty certificate: getters give empty values, to_byte_array fails.
     x509_certificate();

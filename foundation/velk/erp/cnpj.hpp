@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ inline namespace v4 {
 // A company's registration number (14 digits, the last two check digits).
 // A cnpj object is valid by construction: it is made only through from_text,
 // which checks the digits, or from a number the caller vouches for.
-class cnpj {
+class VELK_EXPORT cnpj {
 public:
     explicit cnpj(std::uint64_t number) : number_(number) {}
 

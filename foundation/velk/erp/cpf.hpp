@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -11,7 +12,7 @@ inline namespace v4 {
 
 // A person's taxpayer number (11 digits, the last two check digits). Valid by
 // construction, as cnpj.
-class cpf {
+class VELK_EXPORT cpf {
 public:
     explicit cpf(std::uint64_t number) : number_(number) {}
 

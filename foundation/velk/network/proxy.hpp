@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 
 namespace velk::network {
@@ -7,7 +9,7 @@ inline namespace v3 {
 
 // An HTTP proxy to go through: host, port and, where the proxy asks for them,
 // user and password.
-class proxy {
+class VELK_EXPORT proxy {
 public:
     proxy() = default;
     proxy(std::string host, unsigned int port, std::string user = {}, std::string password = {});

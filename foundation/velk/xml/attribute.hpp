@@ -1,12 +1,14 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 
 namespace velk::xml {
 inline namespace v3 {
 
 // An attribute as written: its name may carry a prefix ("xsi:type").
-class attribute {
+class VELK_EXPORT attribute {
 public:
     attribute(std::string name, std::string value);
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -7,7 +9,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // A CDATA section: saved as <![CDATA[...]]>, its contents are not escaped.
-class cdata_section {
+class VELK_EXPORT cdata_section {
 public:
     explicit cdata_section(std::string contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -7,7 +9,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // A comment, kept so that a parsed tree saves as it came.
-class comment {
+class VELK_EXPORT comment {
 public:
     explicit comment(std::string contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }

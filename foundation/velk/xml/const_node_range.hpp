@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <cstddef>
 #include <list>
 
@@ -9,7 +11,7 @@ inline namespace v3 {
 class node;
 
 // The children of an element in document order, read-only.
-class const_node_range {
+class VELK_EXPORT const_node_range {
 public:
     using iterator = std::list<node>::const_iterator;
     using const_iterator = std::list<node>::const_iterator;

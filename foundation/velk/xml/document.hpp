@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/xml/element.hpp>
 
@@ -10,7 +11,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // An XML document: at most one root element.
-class document {
+class VELK_EXPORT document {
 public:
     document();
     document(document const& other);

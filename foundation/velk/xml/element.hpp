@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/xml/attribute.hpp>
 #include <velk/xml/cdata_section.hpp>
@@ -35,7 +36,7 @@ class element_access;
 // copy of a part of a tree therefore declares what the part needs.
 //
 // A moved-from element is only good for destruction or assignment.
-class element {
+class VELK_EXPORT element {
 public:
     // An element with an empty name: the placeholder of responses not read.
     element();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <cstddef>
 #include <list>
 
@@ -12,7 +14,7 @@ class element;
 // The children of an element in document order, changeable. Positions are
 // iterators of a doubly linked list: they stay valid while other children are
 // inserted or erased.
-class mutable_node_range {
+class VELK_EXPORT mutable_node_range {
 public:
     using iterator = std::list<node>::iterator;
 

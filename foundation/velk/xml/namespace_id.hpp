@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -8,7 +10,7 @@ inline namespace v3 {
 
 // A namespace declaration on an element. An empty prefix declares the
 // default namespace (xmlns="uri").
-class namespace_id {
+class VELK_EXPORT namespace_id {
 public:
     namespace_id(std::string prefix, std::string uri) : prefix_(std::move(prefix)), uri_(std::move(uri)) {}
 

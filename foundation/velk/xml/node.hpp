@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/xml/cdata_section.hpp>
 #include <velk/xml/comment.hpp>
 #include <velk/xml/element.hpp>
@@ -14,7 +15,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // Any child of an element.
-class node {
+class VELK_EXPORT node {
 public:
     node(element const& value) : value_(value) {}
     node(element&& value) : value_(std::move(value)) {}

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -7,7 +9,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // A processing instruction inside an element: <?target data?>.
-class processing_instruction {
+class VELK_EXPORT processing_instruction {
 public:
     processing_instruction(std::string target, std::string data) : target_(std::move(target)), data_(std::move(data))
     {

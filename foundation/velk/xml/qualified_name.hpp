@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string_view>
 
 namespace velk::xml {
@@ -10,7 +12,7 @@ inline namespace v3 {
 // document::save writes names by and the parser reads them by, so whoever
 // turns a tree into text some other way (a canonical form for a signature)
 // takes and refuses exactly the names the tree does.
-bool is_qualified_name(std::string_view name);
+VELK_EXPORT bool is_qualified_name(std::string_view name);
 
 }  // namespace v3
 }  // namespace velk::xml

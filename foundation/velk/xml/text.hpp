@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -7,7 +9,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // A text node. Its contents are kept unescaped and escaped when saved.
-class text {
+class VELK_EXPORT text {
 public:
     explicit text(std::string contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }

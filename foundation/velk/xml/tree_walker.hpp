@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/xml/cdata_section.hpp>
 #include <velk/xml/element.hpp>
@@ -14,7 +15,7 @@ inline namespace v3 {
 // A depth-first visit of an element and its descendants, in document order.
 // Derive and override what matters; the defaults visit everything and do
 // nothing.
-class tree_walker {
+class VELK_EXPORT tree_walker {
 public:
     tree_walker();
     virtual ~tree_walker();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -8,7 +9,7 @@ namespace velk::xml {
 inline namespace v3 {
 
 // Failures of the XML tree ("velk-xml").
-class xml_result_category final : public core::result::table_category {
+class VELK_EXPORT xml_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<xml_result_category, N, Kinds...>;

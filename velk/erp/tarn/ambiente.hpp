@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::erp::inline v4::tarn {
 
@@ -12,7 +13,7 @@ enum class ambiente : int {
 };
 
 // 2 for homologacao, 1 for producao, 0 for any other value.
-int get_codigo_ambiente(ambiente value);
+VELK_EXPORT int get_codigo_ambiente(ambiente value);
 
 }  // namespace velk::erp::inline v4::tarn
 
@@ -22,13 +23,13 @@ inline namespace v3 {
 // "homologação" / "produção" (UTF-8, 13 and 10 bytes); an unknown value fails
 // before the room is looked at.
 template <>
-struct chars_converter<erp::tarn::ambiente> {
+struct VELK_EXPORT chars_converter<erp::tarn::ambiente> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::ambiente value);
 };
 
 // "homologação" or "2", "produção" or "1".
 template <>
-struct value_converter<erp::tarn::ambiente> {
+struct VELK_EXPORT value_converter<erp::tarn::ambiente> {
     static converter_status make_value(erp::tarn::ambiente& value, char const* text, unsigned long size);
 };
 

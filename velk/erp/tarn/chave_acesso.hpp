@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 #include <velk/erp/estado.hpp>
 #include <velk/erp/fiscal/tipo_emissao.hpp>
 #include <velk/erp/tarn/modelo.hpp>
@@ -14,7 +15,7 @@ namespace velk::erp::inline v4::tarn {
 // The 44-digit access key of an NF-e or NFC-e, split into its fields. A plain
 // carrier: it neither computes nor tests the check digit and relates no field
 // to another; the digit is kept as the key came.
-class chave_acesso {
+class VELK_EXPORT chave_acesso {
 public:
     struct data {
         velk::erp::estado estado = velk::erp::estado::ac;          // digits 0-1: IBGE code
@@ -63,7 +64,7 @@ inline namespace v3 {
 // no text. The cnpj field is copied as 14
 // bytes: it is expected to hold 14 characters.
 template <>
-struct chars_converter<erp::tarn::chave_acesso> {
+struct VELK_EXPORT chars_converter<erp::tarn::chave_acesso> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::chave_acesso const& value);
 };
 
@@ -71,7 +72,7 @@ struct chars_converter<erp::tarn::chave_acesso> {
 // emission type digit must be known values; month and check digit are not
 // tested. A failed read leaves the fields read so far in the target.
 template <>
-struct value_converter<erp::tarn::chave_acesso> {
+struct VELK_EXPORT value_converter<erp::tarn::chave_acesso> {
     static converter_status make_value(erp::tarn::chave_acesso& value, char const* text, unsigned long size);
 };
 

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 namespace velk::erp::inline v4::tarn {
 
 // The version of this library, "4.0.0".
-char const* get_versao_biblioteca();
+VELK_EXPORT char const* get_versao_biblioteca();
 
 }  // namespace velk::erp::inline v4::tarn

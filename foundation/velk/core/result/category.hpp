@@ -1,12 +1,14 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 namespace velk::core {
 inline namespace v3 {
 namespace result {
 
 // Who failed. A category holds no data: its identity is its object, reached
 // through the static instance() of each concrete category. Codes start at 1.
-class category {
+class VELK_EXPORT category {
 public:
     virtual ~category();
     virtual char const* get_name() const = 0;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/core/text_formatter.hpp>
 
@@ -24,7 +25,7 @@ struct detail_kind {
 };
 
 // A text, stored as it is.
-struct text : detail_kind<std::string, 1> {
+struct VELK_EXPORT text : detail_kind<std::string, 1> {
     static void store(stack::item& item, char const* const* name, std::string const& value)
     {
         item.set_argument(name[0], value);
@@ -48,7 +49,7 @@ struct omissible : Kind {
 };
 
 // A code that has words but is never created: no call can give its detail.
-struct not_created {
+struct VELK_EXPORT not_created {
     struct parameter {
         parameter() = delete;
     };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/category.hpp>
 
 #include <cstddef>
@@ -13,7 +14,7 @@ namespace result {
 
 // The failure report of one call chain: empty while all goes well, one item per
 // reason otherwise, the latest on top. It belongs to the caller.
-class stack {
+class VELK_EXPORT stack {
 public:
     // One reason: a category, a code number and named text arguments.
     class item {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/category.hpp>
 
 #include <array>
@@ -12,7 +13,7 @@ namespace result {
 // A category whose messages are the words of its table of codes (row.hpp),
 // indexed by code - 1. A null entry is a code without words: asking for its
 // message ends the process, as for any number outside the table.
-class table_category : public category {
+class VELK_EXPORT table_category : public category {
 public:
     char const* get_name() const override { return name_; }
     char const* get_message(int code) const override

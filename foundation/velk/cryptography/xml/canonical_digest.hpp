@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
 #include <velk/xml/element.hpp>
@@ -16,8 +17,8 @@ namespace xml {
 // under root (root itself included): else code 13 with "". Nothing is
 // signed and the tree is not changed; a document's digest is known before it
 // is signed (the NFC-e QR code needs it) and equals what the signer writes.
-core::byte_array canonical_digest(velk::xml::element const& root, velk::xml::element const& target,
-                                  cryptographic_hash::algorithm algorithm, core::result::stack& stack);
+VELK_EXPORT core::byte_array canonical_digest(velk::xml::element const& root, velk::xml::element const& target,
+                                              cryptographic_hash::algorithm algorithm, core::result::stack& stack);
 
 }  // namespace xml
 }  // namespace v3

@@ -1,12 +1,14 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 namespace velk::cryptography {
 inline namespace v3 {
 namespace xml {
 
 // KeyInfo. With add_X509 it holds X509Data/X509Certificate, which the signer
 // fills with the signing certificate.
-class key_info {
+class VELK_EXPORT key_info {
 public:
     key_info() = default;
 

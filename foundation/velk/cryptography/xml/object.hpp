@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/xml/element.hpp>
 
 #include <string>
@@ -11,7 +12,7 @@ namespace xml {
 
 // An Object of the signature: arbitrary elements carried after KeyInfo. The
 // NF-e profile has none; it exists for other signature profiles.
-class object {
+class VELK_EXPORT object {
 public:
     object() = default;
 

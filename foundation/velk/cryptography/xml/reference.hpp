@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/cryptography/xml/method/digest.hpp>
 #include <velk/cryptography/xml/method/transform.hpp>
 
@@ -12,7 +13,7 @@ namespace xml {
 
 // One Reference of SignedInfo: the URI "#" + the Id of the signed element, the
 // transforms in the order added, and the digest method.
-class reference {
+class VELK_EXPORT reference {
 public:
     explicit reference(method::digest const& digest) : digest_(digest) {}
 

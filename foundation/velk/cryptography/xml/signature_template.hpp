@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/xml/key_info.hpp>
@@ -15,7 +16,7 @@ namespace xml {
 
 // The unsigned Signature element: what the caller appends under the parent of
 // the element to sign before running the signer.
-class signature_template {
+class VELK_EXPORT signature_template {
 public:
     signature_template(signed_info const& info, core::optional<key_info> const& key,
                        std::vector<object> const& objects);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/cryptography/xml/method/canonicalization.hpp>
 #include <velk/cryptography/xml/method/signature.hpp>
 #include <velk/cryptography/xml/reference.hpp>
@@ -11,7 +12,7 @@ inline namespace v3 {
 namespace xml {
 
 // SignedInfo: how it is canonicalised and signed, and its references.
-class signed_info {
+class VELK_EXPORT signed_info {
 public:
     signed_info(method::canonicalization const& canonicalization, method::signature const& signature)
         : canonicalization_(canonicalization), signature_(signature)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/evp_private_key.hpp>
 #include <velk/cryptography/x509_certificate.hpp>
@@ -12,7 +13,7 @@ namespace xml {
 // Computes an enveloped XML signature in place: fills the DigestValue of each
 // reference, the SignatureValue and the X509Certificate of a template made by
 // signature_template and appended under the parent of the signed element.
-class signer {
+class VELK_EXPORT signer {
 public:
     signer(x509_certificate const& certificate, evp_private_key const& key);
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // One addition (adição) of an import declaration.
-class adicao {
+class VELK_EXPORT adicao {
 public:
     // nAdicao
     std::uint16_t get_numero_adicao() const { return numero_adicao_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/tipo_arma.hpp>
 
 #include <string>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A firearm sold in the item.
-class arma {
+class VELK_EXPORT arma {
 public:
     // tpArma
     tipo_arma get_tipo() const { return tipo_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <string>
@@ -11,7 +12,7 @@ namespace fiscal {
 
 // Someone allowed to download the authorised XML (an accountant, a carrier).
 // The CNPJ is taken when both are given.
-class autorizacao_acesso_xml {
+class VELK_EXPORT autorizacao_acesso_xml {
 public:
     // CNPJ, digits only
     core::optional<std::string> get_cnpj() const { return cnpj_; }

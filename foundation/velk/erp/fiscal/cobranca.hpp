@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/duplicata.hpp>
 
@@ -13,7 +14,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The bill: invoice and instalments.
-class cobranca {
+class VELK_EXPORT cobranca {
 public:
     // nFat
     core::optional<std::string> get_numero_fatura() const { return numero_fatura_; }

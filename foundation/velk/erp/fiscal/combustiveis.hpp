@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/encerrante_bomba_combustiveis.hpp>
 #include <velk/erp/fiscal/informacoes_cide_combustiveis.hpp>
@@ -15,7 +16,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Details of a fuel item.
-class combustiveis {
+class VELK_EXPORT combustiveis {
 public:
     // cProdANP: ANP product code, 9 digits
     std::uint32_t get_codigo_produto_anp() const { return codigo_produto_anp_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/modelo_cupom_fiscal.hpp>
 
 #include <cstdint>
@@ -9,7 +10,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A fiscal receipt (cupom fiscal) that the note refers to.
-class cupom_referenciado {
+class VELK_EXPORT cupom_referenciado {
 public:
     // mod
     modelo_cupom_fiscal get_modelo() const { return modelo_; }

@@ -2,6 +2,7 @@
 
 #include <velk/core/date.hpp>
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/adicao.hpp>
 #include <velk/erp/fiscal/forma_intermedio_importacao.hpp>
@@ -16,7 +17,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // An import declaration (DI, DSI, DIRE) of the item.
-class declaracao_importacao {
+class VELK_EXPORT declaracao_importacao {
 public:
     // nDI
     std::string get_numero_documento_importacao() const { return numero_documento_importacao_; }

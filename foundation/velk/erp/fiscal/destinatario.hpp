@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/endereco.hpp>
 #include <velk/erp/fiscal/indicador_ie_destinatario.hpp>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The recipient of the note.
-class destinatario {
+class VELK_EXPORT destinatario {
 public:
     // CPF, digits only; taken before the CNPJ
     core::optional<std::string> get_cpf() const { return cpf_; }

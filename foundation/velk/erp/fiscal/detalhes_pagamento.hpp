@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/indicador_forma_pagamento.hpp>
 #include <velk/erp/fiscal/meio_pagamento.hpp>
@@ -14,7 +15,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // One payment of the note.
-class detalhes_pagamento {
+class VELK_EXPORT detalhes_pagamento {
 public:
     // indPag
     core::optional<indicador_forma_pagamento> get_indicador_forma_pagamento() const

@@ -2,6 +2,7 @@
 
 #include <velk/core/date.hpp>
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <string>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // One instalment of the bill.
-class duplicata {
+class VELK_EXPORT duplicata {
 public:
     // nDup
     core::optional<std::string> get_numero_duplicata() const { return numero_duplicata_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/endereco.hpp>
 #include <velk/erp/fiscal/regime_tributario.hpp>
@@ -13,7 +14,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The issuer of the note.
-class emitente {
+class VELK_EXPORT emitente {
 public:
     // CNPJ, digits only
     core::optional<std::string> get_cnpj() const { return cnpj_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Pump meter readings of a retail fuel sale.
-class encerrante_bomba_combustiveis {
+class VELK_EXPORT encerrante_bomba_combustiveis {
 public:
     // nBico
     std::uint16_t get_identificacao_bico() const { return identificacao_bico_; }

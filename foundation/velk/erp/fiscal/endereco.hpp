@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A postal address.
-class endereco {
+class VELK_EXPORT endereco {
 public:
     // xLgr
     std::string get_logradouro() const { return logradouro_; }

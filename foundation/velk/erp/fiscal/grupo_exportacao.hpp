@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Export information of the item.
-class grupo_exportacao {
+class VELK_EXPORT grupo_exportacao {
 public:
     // nDraw
     core::optional<std::uint64_t> get_numero_ato_concessorio_drawback() const

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/motivo_desoneracao_icms.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS relieved, and why.
-class grupo_icms_desonerado {
+class VELK_EXPORT grupo_icms_desonerado {
 public:
     // vICMSDeson
     core::decimal get_valor_icms_desonerado() const { return valor_icms_desonerado_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS retained before by substitution.
-class grupo_icms_st_retido {
+class VELK_EXPORT grupo_icms_st_retido {
 public:
     // vBCSTRet
     core::decimal get_valor_bc_icms_retido() const { return valor_bc_icms_retido_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/indicador_origem_processo.hpp>
 
 #include <string>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A legal or administrative process the note refers to.
-class grupo_processo_referenciado {
+class VELK_EXPORT grupo_processo_referenciado {
 public:
     // nProc
     std::string get_identificador() const { return identificador_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/cst_icms.hpp>
 #include <velk/erp/fiscal/grupo_fcp_st_retido_anteriormente.hpp>
@@ -14,7 +15,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS by substitution passed on to the state of destination (group ICMSST).
-class grupo_repasse_icms_st {
+class VELK_EXPORT grupo_repasse_icms_st {
 public:
     // orig
     origem_mercadoria get_origem_mercadoria() const { return origem_mercadoria_; }

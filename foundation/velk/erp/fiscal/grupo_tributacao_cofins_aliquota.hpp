@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/cst_pis_cofins_aliquota.hpp>
 #include <velk/erp/fiscal/detail/cofins_sobre_base.hpp>
 
@@ -8,7 +9,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // COFINS charged by rate on the value (group COFINSAliq).
-class grupo_tributacao_cofins_aliquota
+class VELK_EXPORT grupo_tributacao_cofins_aliquota
     : public detail::cofins_sobre_base<grupo_tributacao_cofins_aliquota, cst_pis_cofins_aliquota> {};
 
 }  // namespace fiscal

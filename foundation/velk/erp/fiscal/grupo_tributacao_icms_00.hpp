@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_proprio.hpp>
 #include <velk/erp/fiscal/detail/origem_cst.hpp>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS taxed in full (group ICMS00).
-class grupo_tributacao_icms_00 : public detail::origem_cst<grupo_tributacao_icms_00>,
+class VELK_EXPORT grupo_tributacao_icms_00 : public detail::origem_cst<grupo_tributacao_icms_00>,
                                  public detail::icms_proprio<grupo_tributacao_icms_00> {
 public:
     // vBCFCP, pFCP, vFCP

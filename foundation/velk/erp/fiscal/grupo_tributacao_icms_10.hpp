@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_proprio.hpp>
 #include <velk/erp/fiscal/detail/icms_st.hpp>
@@ -13,7 +14,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS taxed, with ICMS by substitution (group ICMS10).
-class grupo_tributacao_icms_10 : public detail::origem_cst<grupo_tributacao_icms_10>,
+class VELK_EXPORT grupo_tributacao_icms_10 : public detail::origem_cst<grupo_tributacao_icms_10>,
                                  public detail::icms_proprio<grupo_tributacao_icms_10>,
                                  public detail::icms_st<grupo_tributacao_icms_10> {
 public:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/detail/origem_csosn.hpp>
 
 namespace velk::erp {
@@ -7,7 +8,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Simples Nacional without credit: CSOSN 102, 103, 300 or 400 (group ICMSSN102).
-class grupo_tributacao_icms_102 : public detail::origem_csosn<grupo_tributacao_icms_102> {};
+class VELK_EXPORT grupo_tributacao_icms_102 : public detail::origem_csosn<grupo_tributacao_icms_102> {};
 
 }  // namespace fiscal
 }  // namespace v4

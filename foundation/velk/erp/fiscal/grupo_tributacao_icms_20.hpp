@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_proprio.hpp>
 #include <velk/erp/fiscal/detail/origem_cst.hpp>
@@ -14,7 +15,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS on a reduced base (group ICMS20).
-class grupo_tributacao_icms_20 : public detail::origem_cst<grupo_tributacao_icms_20>,
+class VELK_EXPORT grupo_tributacao_icms_20 : public detail::origem_cst<grupo_tributacao_icms_20>,
                                  public detail::icms_proprio<grupo_tributacao_icms_20> {
 public:
     // pRedBC

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_st.hpp>
 #include <velk/erp/fiscal/detail/origem_cst.hpp>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS exempt or not taxed, with substitution (group ICMS30).
-class grupo_tributacao_icms_30 : public detail::origem_cst<grupo_tributacao_icms_30>,
+class VELK_EXPORT grupo_tributacao_icms_30 : public detail::origem_cst<grupo_tributacao_icms_30>,
                                  public detail::icms_st<grupo_tributacao_icms_30> {
 public:
     // vICMSDeson, motDesICMS

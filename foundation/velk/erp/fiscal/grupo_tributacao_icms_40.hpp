@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/origem_cst.hpp>
 #include <velk/erp/fiscal/grupo_icms_desonerado.hpp>
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS exempt, not taxed or suspended (group ICMS40).
-class grupo_tributacao_icms_40 : public detail::origem_cst<grupo_tributacao_icms_40> {
+class VELK_EXPORT grupo_tributacao_icms_40 : public detail::origem_cst<grupo_tributacao_icms_40> {
 public:
     // vICMSDeson, motDesICMS
     core::optional<grupo_icms_desonerado> get_grupo_icms_desonerado() const { return grupo_icms_desonerado_; }

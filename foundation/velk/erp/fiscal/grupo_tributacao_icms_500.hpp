@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/detail/icms_retido_anteriormente.hpp>
 #include <velk/erp/fiscal/detail/origem_csosn.hpp>
 
@@ -8,7 +9,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Simples Nacional, charged before by substitution (group ICMSSN500).
-class grupo_tributacao_icms_500 : public detail::origem_csosn<grupo_tributacao_icms_500>,
+class VELK_EXPORT grupo_tributacao_icms_500 : public detail::origem_csosn<grupo_tributacao_icms_500>,
                                   public detail::icms_retido_anteriormente<grupo_tributacao_icms_500> {};
 
 }  // namespace fiscal

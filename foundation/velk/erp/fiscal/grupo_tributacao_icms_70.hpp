@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_proprio.hpp>
 #include <velk/erp/fiscal/detail/icms_st.hpp>
@@ -15,7 +16,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS on a reduced base, with substitution (group ICMS70).
-class grupo_tributacao_icms_70 : public detail::origem_cst<grupo_tributacao_icms_70>,
+class VELK_EXPORT grupo_tributacao_icms_70 : public detail::origem_cst<grupo_tributacao_icms_70>,
                                  public detail::icms_proprio<grupo_tributacao_icms_70>,
                                  public detail::icms_st<grupo_tributacao_icms_70> {
 public:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/origem_cst.hpp>
 #include <velk/erp/fiscal/grupo_icms_desonerado.hpp>
@@ -13,7 +14,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS, other situations (group ICMS90).
-class grupo_tributacao_icms_90 : public detail::origem_cst<grupo_tributacao_icms_90> {
+class VELK_EXPORT grupo_tributacao_icms_90 : public detail::origem_cst<grupo_tributacao_icms_90> {
 public:
     // modBC, vBC, pRedBC, pICMS, vICMS, FCP
     core::optional<tributacao_normal_icms_90> get_tributacao_normal_icms_90() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/origem_csosn.hpp>
 #include <velk/erp/fiscal/tributacao_credito_sn_icms_900.hpp>
@@ -13,7 +14,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Simples Nacional, other situations (group ICMSSN900).
-class grupo_tributacao_icms_900 : public detail::origem_csosn<grupo_tributacao_icms_900> {
+class VELK_EXPORT grupo_tributacao_icms_900 : public detail::origem_csosn<grupo_tributacao_icms_900> {
 public:
     // modBC, vBC, pRedBC, pICMS, vICMS
     core::optional<tributacao_normal_icms_900> get_tributacao_normal_icms_900() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/cst_pis_cofins_nao_tributado.hpp>
 
 namespace velk::erp {
@@ -7,7 +8,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // PIS not charged (group PISNT).
-class grupo_tributacao_pis_nt {
+class VELK_EXPORT grupo_tributacao_pis_nt {
 public:
     // CST
     cst_pis_cofins_nao_tributado get_cst_pis() const { return cst_pis_; }

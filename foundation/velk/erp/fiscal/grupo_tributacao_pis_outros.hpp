@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/cst_pis_cofins_outras_operacoes.hpp>
 #include <velk/erp/fiscal/detail/pis_sobre_base.hpp>
 
@@ -8,7 +9,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // PIS in other operations (group PISOutr), on a base and a rate.
-class grupo_tributacao_pis_outros
+class VELK_EXPORT grupo_tributacao_pis_outros
     : public detail::pis_sobre_base<grupo_tributacao_pis_outros, cst_pis_cofins_outras_operacoes> {};
 
 }  // namespace fiscal

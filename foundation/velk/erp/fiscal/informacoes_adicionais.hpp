@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/grupo_processo_referenciado.hpp>
 
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Additional information of the note.
-class informacoes_adicionais {
+class VELK_EXPORT informacoes_adicionais {
 public:
     // infAdFisco
     core::optional<std::string> get_informacoes_adicionais_fisco() const { return informacoes_adicionais_fisco_; }

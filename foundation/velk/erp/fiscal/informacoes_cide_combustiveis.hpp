@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 
 #include <utility>
 
@@ -9,7 +10,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // CIDE charged on a fuel.
-class informacoes_cide_combustiveis {
+class VELK_EXPORT informacoes_cide_combustiveis {
 public:
     // qBCProd
     core::decimal get_base_de_calculo() const { return base_de_calculo_; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -9,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The technical manager's security code (CSRT) as the state gave it.
-class informacoes_codigo_seguranca {
+class VELK_EXPORT informacoes_codigo_seguranca {
 public:
     // idCSRT
     std::uint16_t get_identificador_csrt() const { return identificador_csrt_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Shares of a liquefied gas blend.
-class informacoes_combustivel_glp {
+class VELK_EXPORT informacoes_combustivel_glp {
 public:
     // pGLP
     core::optional<core::decimal> get_percentual_derivado_do_petroleo() const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <string>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Export of the goods.
-class informacoes_comercio_exterior {
+class VELK_EXPORT informacoes_comercio_exterior {
 public:
     // UFSaidaPais
     std::string get_uf_saida() const { return uf_saida_; }

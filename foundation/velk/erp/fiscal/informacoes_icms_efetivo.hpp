@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 
 #include <utility>
 
@@ -9,7 +10,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Effective ICMS, for a consumer sale of goods taxed before by substitution.
-class informacoes_icms_efetivo {
+class VELK_EXPORT informacoes_icms_efetivo {
 public:
     // pRedBCEfet
     core::decimal get_percentual_reducao_bc() const { return percentual_reducao_bc_; }

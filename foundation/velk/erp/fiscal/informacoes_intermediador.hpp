@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -9,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The marketplace through which the sale was made.
-class informacoes_intermediador {
+class VELK_EXPORT informacoes_intermediador {
 public:
     // CNPJ
     std::uint64_t get_cnpj() const { return cnpj_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detalhes_pagamento.hpp>
 
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The payments of the note.
-class informacoes_pagamento {
+class VELK_EXPORT informacoes_pagamento {
 public:
     // detPag
     std::vector<detalhes_pagamento> get_detalhes_pagamento() const { return detalhes_pagamento_; }

@@ -2,6 +2,7 @@
 
 #include <velk/core/date.hpp>
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <string>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A batch of the item, for goods that must be traced (medicines, pesticides, drinks).
-class informacoes_rastreabilidade {
+class VELK_EXPORT informacoes_rastreabilidade {
 public:
     // nLote
     std::string numero_lote() const { return numero_lote_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/informacoes_codigo_seguranca.hpp>
 
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The software house responsible for the issuing program.
-class informacoes_responsavel_tecnico {
+class VELK_EXPORT informacoes_responsavel_tecnico {
 public:
     // CNPJ
     std::string get_cnpj() const { return cnpj_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/modalidade_frete.hpp>
 #include <velk/erp/fiscal/transportador.hpp>
@@ -14,7 +15,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // How the goods travel.
-class informacoes_transporte {
+class VELK_EXPORT informacoes_transporte {
 public:
     // modFrete
     modalidade_frete get_modalidade_frete() const { return modalidade_frete_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 
 #include <utility>
 
@@ -9,7 +10,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // IPI given back with a return of goods.
-class ipi_devolvido {
+class VELK_EXPORT ipi_devolvido {
 public:
     // vIPIDevol
     core::decimal get_valor() const { return valor_; }

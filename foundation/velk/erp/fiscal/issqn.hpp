@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Municipal service tax of a service item (group ISSQN).
-class issqn {
+class VELK_EXPORT issqn {
 public:
     // vBC
     core::decimal get_valor_bc() const { return valor_bc_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/endereco.hpp>
 
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Where the goods are delivered, when not at the recipient's address.
-class local_entrega {
+class VELK_EXPORT local_entrega {
 public:
     // CPF, digits only; taken before the CNPJ
     core::optional<std::string> get_cpf() const { return cpf_; }

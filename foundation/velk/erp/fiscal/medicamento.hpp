@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/codigo_anvisa.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A medicine sold in the item.
-class medicamento {
+class VELK_EXPORT medicamento {
 public:
     // cProdANVISA: the registration code, or the exemption
     codigo_anvisa get_codigo_anvisa() const { return codigo_anvisa_; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -8,7 +10,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Why a medicine has no ANVISA registration.
-class medicamento_isento {
+class VELK_EXPORT medicamento_isento {
 public:
     // xMotivoIsencao
     std::string get_motivo() const { return motivo_; }

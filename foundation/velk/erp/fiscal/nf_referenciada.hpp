@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <cstdint>
 #include <string>
 #include <utility>
@@ -9,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A paper note (model 1 or 2) that the note refers to.
-class nf_referenciada {
+class VELK_EXPORT nf_referenciada {
 public:
     // cUF: IBGE code of the state
     std::uint16_t get_uf_emitente() const { return uf_emitente_; }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <velk/core/export.hpp>
+
 #include <string>
 #include <utility>
 
@@ -8,7 +10,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // An NF-e or NFC-e that the note refers to.
-class nfe_referenciada {
+class VELK_EXPORT nfe_referenciada {
 public:
     // refNFe: the 44-digit access key
     std::string get_chave_nfe() const { return chave_nfe_; }

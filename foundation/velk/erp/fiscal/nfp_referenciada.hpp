@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/modelo_nf_produtor.hpp>
 
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // A rural producer's note that the note refers to.
-class nfp_referenciada {
+class VELK_EXPORT nfp_referenciada {
 public:
     // cUF: IBGE code of the state
     std::uint16_t get_uf_emitente() const { return uf_emitente_; }

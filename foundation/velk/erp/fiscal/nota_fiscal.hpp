@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/autorizacao_acesso_xml.hpp>
 #include <velk/erp/fiscal/cobranca.hpp>
@@ -48,7 +49,7 @@ namespace fiscal {
 // Enumerations number their values from 0 in the order of the layout's codes (tipo_operacao::saida is 1 and writes
 // tpNF 1, meio_pagamento::outros is 12 and writes tPag 99). A value outside the enumerators can be held, static_cast
 // from its number; document generation then refuses the note with that number as the detail.
-class nota_fiscal {
+class VELK_EXPORT nota_fiscal {
 public:
     // the access key; Id is "NFe" and the key, cDV its last digit
     std::string get_chave_44_digitos() const { return chave_44_digitos_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/arma.hpp>
 #include <velk/erp/fiscal/combustiveis.hpp>
@@ -27,7 +28,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // An item of the note: the goods, their amounts and their taxes.
-class produto {
+class VELK_EXPORT produto {
 public:
     // cProd: the issuer's own code
     std::string get_codigo_produto() const { return codigo_produto_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::erp {
 inline namespace v4 {
@@ -27,12 +28,12 @@ namespace velk::core {
 inline namespace v3 {
 
 template <>
-struct chars_converter<erp::fiscal::tipo_emissao> {
+struct VELK_EXPORT chars_converter<erp::fiscal::tipo_emissao> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::fiscal::tipo_emissao value);
 };
 
 template <>
-struct value_converter<erp::fiscal::tipo_emissao> {
+struct VELK_EXPORT value_converter<erp::fiscal::tipo_emissao> {
     static converter_status make_value(erp::fiscal::tipo_emissao& value, char const* text, unsigned long size);
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/total_nfe_icms.hpp>
 #include <velk/erp/fiscal/total_nfe_issqn.hpp>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Totals of the note.
-class total_nfe {
+class VELK_EXPORT total_nfe {
 public:
     // ICMSTot
     total_nfe_icms get_total_icms() const { return total_icms_; }

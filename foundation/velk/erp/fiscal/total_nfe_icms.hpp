@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Totals of the note that concern goods (group ICMSTot).
-class total_nfe_icms {
+class VELK_EXPORT total_nfe_icms {
 public:
     // vBC
     core::decimal get_total_base_normal() const { return total_base_normal_; }

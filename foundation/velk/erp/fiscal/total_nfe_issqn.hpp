@@ -2,6 +2,7 @@
 
 #include <velk/core/date.hpp>
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Totals of the note that concern services (group ISSQNtot).
-class total_nfe_issqn {
+class VELK_EXPORT total_nfe_issqn {
 public:
     // vServ
     core::optional<core::decimal> get_valor_servico() const { return valor_servico_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Federal taxes withheld (group retTrib).
-class total_nfe_retencao_tributos {
+class VELK_EXPORT total_nfe_retencao_tributos {
 public:
     // vRetPIS
     core::optional<core::decimal> get_valor_pis_retido() const { return valor_pis_retido_; }

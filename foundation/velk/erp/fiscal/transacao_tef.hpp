@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/bandeira_cartao.hpp>
 #include <velk/erp/fiscal/tipo_integracao_pagamento.hpp>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The card transaction of a payment.
-class transacao_tef {
+class VELK_EXPORT transacao_tef {
 public:
     // tpIntegra
     core::optional<tipo_integracao_pagamento> get_tipo_integracao() const { return tipo_integracao_; }

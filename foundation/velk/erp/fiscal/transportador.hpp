@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/documento_transportador.hpp>
 
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The carrier.
-class transportador {
+class VELK_EXPORT transportador {
 public:
     // CNPJ or CPF
     core::optional<documento_transportador> get_documento() const { return documento_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS shared with the state of destination, for a sale to a non-taxpayer in another state (group ICMSUFDest).
-class tributacao_icms_uf_destino {
+class VELK_EXPORT tributacao_icms_uf_destino {
 public:
     // vBCUFDest
     core::decimal get_valor_bc() const { return valor_bc_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Import tax of the item (group II).
-class tributacao_imposto_importacao {
+class VELK_EXPORT tributacao_imposto_importacao {
 public:
     // vBC
     core::decimal get_valor_bc_imposto_importacao() const { return valor_bc_imposto_importacao_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/cst_ipi.hpp>
 #include <velk/erp/fiscal/tributacao_ipi_calculo_aliquota.hpp>
@@ -15,7 +16,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // IPI of the item (group IPI).
-class tributacao_ipi {
+class VELK_EXPORT tributacao_ipi {
 public:
     // CNPJProd, digits only
     core::optional<std::string> get_cnpj_produtor() const { return cnpj_produtor_; }

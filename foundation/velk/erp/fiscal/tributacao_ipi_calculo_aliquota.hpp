@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // IPI computed by rate on a base.
-class tributacao_ipi_calculo_aliquota {
+class VELK_EXPORT tributacao_ipi_calculo_aliquota {
 public:
     // vBC
     core::optional<core::decimal> get_valor_bc_ipi() const { return valor_bc_ipi_; }

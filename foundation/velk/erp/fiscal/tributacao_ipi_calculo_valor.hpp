@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // IPI computed by value per unit.
-class tributacao_ipi_calculo_valor {
+class VELK_EXPORT tributacao_ipi_calculo_valor {
 public:
     // vUnid
     core::optional<core::decimal> get_valor_unidade_tributavel() const { return valor_unidade_tributavel_; }

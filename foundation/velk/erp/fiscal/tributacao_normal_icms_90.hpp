@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_proprio.hpp>
 #include <velk/erp/fiscal/grupo_fcp.hpp>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Own ICMS of a group ICMS90.
-class tributacao_normal_icms_90 : public detail::icms_proprio<tributacao_normal_icms_90> {
+class VELK_EXPORT tributacao_normal_icms_90 : public detail::icms_proprio<tributacao_normal_icms_90> {
 public:
     // pRedBC
     core::optional<core::decimal> get_percentual_reducao_bc_icms() const { return percentual_reducao_bc_icms_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/detail/icms_proprio.hpp>
 
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Own ICMS of a group ICMSSN900.
-class tributacao_normal_icms_900 : public detail::icms_proprio<tributacao_normal_icms_900> {
+class VELK_EXPORT tributacao_normal_icms_900 : public detail::icms_proprio<tributacao_normal_icms_900> {
 public:
     // pRedBC
     core::optional<core::decimal> get_percentual_reducao_bc_icms() const { return percentual_reducao_bc_icms_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/fiscal/grupo_tributacao_cofins.hpp>
 #include <velk/erp/fiscal/grupo_tributacao_pis.hpp>
@@ -11,7 +12,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // PIS and COFINS of the item.
-class tributacao_pis_cofins {
+class VELK_EXPORT tributacao_pis_cofins {
 public:
     // PIS
     core::optional<grupo_tributacao_pis> get_grupo_tributacao_pis() const { return grupo_tributacao_pis_; }

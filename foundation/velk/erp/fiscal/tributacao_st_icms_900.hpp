@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/detail/icms_st.hpp>
 
 namespace velk::erp {
@@ -7,7 +8,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // ICMS by substitution of a group ICMSSN900.
-class tributacao_st_icms_900 : public detail::icms_st<tributacao_st_icms_900> {};
+class VELK_EXPORT tributacao_st_icms_900 : public detail::icms_st<tributacao_st_icms_900> {};
 
 }  // namespace fiscal
 }  // namespace v4

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/erp/fiscal/ipi_devolvido.hpp>
 
 #include <utility>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Taxes given back with a return of goods (group impostoDevol).
-class tributos_devolvidos {
+class VELK_EXPORT tributos_devolvidos {
 public:
     // pDevol
     core::decimal get_percentual() const { return percentual_; }

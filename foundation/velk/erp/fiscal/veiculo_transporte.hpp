@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <string>
@@ -10,7 +11,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // The vehicle that carries the goods.
-class veiculo_transporte {
+class VELK_EXPORT veiculo_transporte {
 public:
     // placa
     std::string get_placa() const { return placa_; }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 
 #include <cstdint>
@@ -12,7 +13,7 @@ inline namespace v4 {
 namespace fiscal {
 
 // Packages carried.
-class volume {
+class VELK_EXPORT volume {
 public:
     // qVol
     std::uint64_t get_quantidade() const { return quantidade_; }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/xml/element.hpp>
@@ -17,7 +18,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 // ("#" and the Id) names. Failures are those of the cryptography library: when
 // the template cannot be made the tree is untouched; when signing fails the
 // unsigned template stays as the last child.
-void assinar_elemento(xml::element& elemento_pai, std::string const& uri,
-                      cryptography::pkcs12 const& certificado, core::result::stack& stack);
+VELK_EXPORT void assinar_elemento(xml::element& elemento_pai, std::string const& uri,
+                                  cryptography::pkcs12 const& certificado, core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe

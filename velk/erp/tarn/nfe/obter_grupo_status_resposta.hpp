@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/consulta.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/inutilizacao.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_autorizacao.hpp>
@@ -27,17 +28,17 @@ enum grupo_status_resposta : int {
 // before the note exists); 135 and 136 for a recipient's manifestation (136
 // when the national environment does not know the note yet); 128 for a batch
 // of events.
-int obter_grupo_status_resposta(sefaz_data::resposta::consulta const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::inutilizacao const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::lote_autorizacao const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::protocolo_nfe const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::cancelamento const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::carta_correcao const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::epec_nfe const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::manifestacao_destinatario const& resposta);
-int obter_grupo_status_resposta(sefaz_data::resposta::lote_evento const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::consulta const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::inutilizacao const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::lote_autorizacao const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::protocolo_nfe const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::cancelamento const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::carta_correcao const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::epec_nfe const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::manifestacao_destinatario const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::lote_evento const& resposta);
 // The answer to one event, by the family it holds. A valueless variant is a
 // defect of the caller and ends the process.
-int obter_grupo_status_resposta(sefaz_data::resposta::resposta_evento const& resposta);
+VELK_EXPORT int obter_grupo_status_resposta(sefaz_data::resposta::resposta_evento const& resposta);
 
 }  // namespace velk::erp::inline v4::tarn::nfe

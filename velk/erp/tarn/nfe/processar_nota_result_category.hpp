@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/stack.hpp>
@@ -35,7 +36,7 @@ struct recusa : core::result::row<processar_nota_result_category, N, Detalhe...>
 // argument "value": the text refused (texto), the raw number of an
 // enumeration beyond its range (numero), or a sentence that names the missing
 // tag (texto). Codes 79 and 80 have no words.
-class processar_nota_result_category final : public core::result::table_category {
+class VELK_EXPORT processar_nota_result_category final : public core::result::table_category {
 public:
     using texto = core::result::text;
     using numero = core::result::number<unsigned int>;
@@ -143,9 +144,9 @@ private:
 
 // A required base of calculation is missing: code 47, with the sentence that
 // names the tag, as the only item of the stack.
-void obrigatorio_base(core::result::stack& stack, std::string const& mensagem);
+VELK_EXPORT void obrigatorio_base(core::result::stack& stack, std::string const& mensagem);
 
 // A required tax value is missing: code 55, as obrigatorio_base.
-void obrigatorio_valor(core::result::stack& stack, std::string const& mensagem);
+VELK_EXPORT void obrigatorio_valor(core::result::stack& stack, std::string const& mensagem);
 
 }  // namespace velk::erp::inline v4::tarn::nfe

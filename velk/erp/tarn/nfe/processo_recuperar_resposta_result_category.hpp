@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -11,7 +12,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 
 // Failures of taking the one result document out of a SOAP answer
 // ("tarn-processo-recuperar-resposta-receita").
-class processo_recuperar_resposta_result_category final : public core::result::table_category {
+class VELK_EXPORT processo_recuperar_resposta_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<processo_recuperar_resposta_result_category, N, Kinds...>;

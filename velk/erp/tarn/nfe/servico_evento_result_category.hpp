@@ -1,12 +1,13 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe {
 
 // Failures of the event service ("tarn-nfe-servico-evento").
-class servico_evento_result_category final : public core::result::table_category {
+class VELK_EXPORT servico_evento_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<servico_evento_result_category, N, Kinds...>;

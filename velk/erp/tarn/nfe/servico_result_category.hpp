@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/byte_array.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -17,7 +18,7 @@
 namespace velk::erp::inline v4::tarn::nfe {
 
 // Failures of the web service calls ("tarn-nfe-servico-geral").
-class servico_result_category final : public core::result::table_category {
+class VELK_EXPORT servico_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<servico_result_category, N, Kinds...>;

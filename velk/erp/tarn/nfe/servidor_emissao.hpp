@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe {
 
@@ -20,7 +21,7 @@ inline namespace v3 {
 
 // Asks for 18 bytes of room for every value.
 template <>
-struct chars_converter<erp::tarn::nfe::servidor_emissao> {
+struct VELK_EXPORT chars_converter<erp::tarn::nfe::servidor_emissao> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::nfe::servidor_emissao value);
 };
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe {
 
@@ -19,12 +20,12 @@ inline namespace v3 {
 // 4: the text with its terminator is what callers rely on. It asks for the 4
 // bytes it writes.
 template <>
-struct chars_converter<erp::tarn::nfe::versao_qrcode> {
+struct VELK_EXPORT chars_converter<erp::tarn::nfe::versao_qrcode> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::nfe::versao_qrcode value);
 };
 
 template <>
-struct value_converter<erp::tarn::nfe::versao_qrcode> {
+struct VELK_EXPORT value_converter<erp::tarn::nfe::versao_qrcode> {
     static converter_status make_value(erp::tarn::nfe::versao_qrcode& value, char const* text, unsigned long size);
 };
 

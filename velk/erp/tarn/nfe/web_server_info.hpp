@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/erp/tarn/ambiente.hpp>
 
 #include <memory>
@@ -10,7 +11,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 // The caller's description of one web service of one authorizer: the library
 // holds no address, action or namespace of any authority, so every call gets
 // them from here.
-class web_server_info {
+class VELK_EXPORT web_server_info {
 public:
     web_server_info();
     web_server_info(web_server_info const& other);

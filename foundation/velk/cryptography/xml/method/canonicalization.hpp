@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/xml/canonicalize.hpp>
 
 #include <string>
@@ -11,7 +12,7 @@ namespace method {
 
 // Canonical XML 1.0 (inclusive), with or without comments: the
 // CanonicalizationMethod of SignedInfo and the canonicalization transform.
-class canonicalization {
+class VELK_EXPORT canonicalization {
 public:
     explicit canonicalization(velk::xml::canonicalization_parameters::version_1_0 const& parameters)
         : parameters_(parameters)

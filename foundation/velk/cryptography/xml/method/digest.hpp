@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
 
 namespace velk::cryptography {
@@ -8,7 +9,7 @@ namespace xml {
 namespace method {
 
 // The DigestMethod of a reference.
-class digest {
+class VELK_EXPORT digest {
 public:
     static digest from_sha1();
     static digest from_algorithm(cryptographic_hash::algorithm algorithm);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
 
 namespace velk::cryptography {
@@ -8,7 +9,7 @@ namespace xml {
 namespace method {
 
 // The SignatureMethod of SignedInfo: RSA (PKCS#1 v1.5) over a digest.
-class signature {
+class VELK_EXPORT signature {
 public:
     static signature from_rsa(cryptographic_hash::algorithm algorithm);
 

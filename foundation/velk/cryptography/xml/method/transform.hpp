@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/cryptography/xml/method/canonicalization.hpp>
 
 #include <string>
@@ -11,7 +12,7 @@ namespace xml {
 namespace method {
 
 // One Transform of a reference, applied in the order added.
-class transform {
+class VELK_EXPORT transform {
 public:
     // Leaves the Signature being computed out of the referenced element.
     static transform from_enveloped_signature();

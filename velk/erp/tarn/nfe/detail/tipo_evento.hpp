@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::detail {
 
@@ -23,12 +24,12 @@ namespace velk::core {
 inline namespace v3 {
 
 template <>
-struct chars_converter<erp::tarn::nfe::detail::tipo_evento> {
+struct VELK_EXPORT chars_converter<erp::tarn::nfe::detail::tipo_evento> {
     static converter_status make_chars(char* buffer, unsigned long& size, erp::tarn::nfe::detail::tipo_evento value);
 };
 
 template <>
-struct value_converter<erp::tarn::nfe::detail::tipo_evento> {
+struct VELK_EXPORT value_converter<erp::tarn::nfe::detail::tipo_evento> {
     static converter_status make_value(erp::tarn::nfe::detail::tipo_evento& value, char const* text,
                                        unsigned long size);
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/detail/protobuf/NotaFiscal.pb.h>
 #include <velk/xml/document.hpp>
@@ -18,8 +19,8 @@ namespace velk::erp::inline v4::tarn::nfe::protobuf {
 // leaves these functions.
 //
 // Layout 4.00, with Id "NFe" followed by chave_acesso as it stands.
-xml::document generate_document_4_00(::velk::internal::nfe::serialization::NotaFiscal const& nota,
-                                     core::result::stack& stack);
+VELK_EXPORT xml::document generate_document_4_00(::velk::internal::nfe::serialization::NotaFiscal const& nota,
+                                                 core::result::stack& stack);
 
 // Layout 3.10, read as 4.00 is and with the same refusals, since what 4.00
 // refuses the schema of 3.10 refuses as well, with these differences: ide's
@@ -34,7 +35,7 @@ xml::document generate_document_4_00(::velk::internal::nfe::serialization::NotaF
 // after the fourth; own transport (3 and 4) is freight of the sender (0) or
 // of the recipient (1); comb's pMixGN is the sum of the imported and national
 // natural gas of the GLP mix, when the mix is given. ICMSST holds only CST 41.
-xml::document generate_document_3_10(::velk::internal::nfe::serialization::NotaFiscal const& nota,
-                                     core::result::stack& stack);
+VELK_EXPORT xml::document generate_document_3_10(::velk::internal::nfe::serialization::NotaFiscal const& nota,
+                                                 core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/detail/protobuf/NotaFiscal.pb.h>
 
@@ -22,13 +23,13 @@ inline constexpr std::size_t tamanho_maximo_nota_json = std::size_t{4} << 20;
 // number out of its field's range, nesting too deep), or code 2 with the size
 // of a text above tamanho_maximo_nota_json; false is returned and `nota` is
 // left cleared.
-bool ler_nota_json(std::string_view texto, ::velk::internal::nfe::serialization::NotaFiscal& nota,
-                   core::result::stack& stack);
+VELK_EXPORT bool ler_nota_json(std::string_view texto, ::velk::internal::nfe::serialization::NotaFiscal& nota,
+                               core::result::stack& stack);
 
 // The JSON text of a note, with the field names of the .proto files, indented,
 // and the fields that hold their defaults left out. Should protobuf's writer
 // fail, code 3 with its reason, and an empty text.
-std::string escrever_nota_json(::velk::internal::nfe::serialization::NotaFiscal const& nota,
-                               core::result::stack& stack);
+VELK_EXPORT std::string escrever_nota_json(::velk::internal::nfe::serialization::NotaFiscal const& nota,
+                                           core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -8,7 +9,7 @@ namespace velk::erp::inline v4::tarn::nfe::protobuf {
 
 // Failures of a note's JSON text ("tarn-nfe-nota-json"): a text that is no
 // NotaFiscal, in the words of protobuf's reader, and one too large to be a note.
-class nota_json_result_category final : public core::result::table_category {
+class VELK_EXPORT nota_json_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<nota_json_result_category, N, Kinds...>;

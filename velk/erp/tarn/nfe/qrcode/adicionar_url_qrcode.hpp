@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/qrcode/informacoes_adicionais.hpp>
 #include <velk/xml/document.hpp>
@@ -17,7 +18,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 // processo_gerar_qrcode_result_category ("url_chave") for an absent urlChave
 // or one that no CDATA section can carry; the document is then unchanged. A
 // document without root gives false with nothing on the stack.
-bool adicionar_url_qrcode(informacoes_adicionais const& informacoes, xml::document& documento,
-                          std::string const& id_token, std::string const& csc, core::result::stack& stack);
+VELK_EXPORT bool adicionar_url_qrcode(informacoes_adicionais const& informacoes, xml::document& documento,
+                                      std::string const& id_token, std::string const& csc, core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/tarn/nfe/versao_qrcode.hpp>
 
@@ -16,7 +17,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 // The implementation is allocated on first need: a default-constructed or
 // moved-from object reads as version 1.00, no urlChave and an empty page, and
 // any setter makes it whole.
-class informacoes_adicionais {
+class VELK_EXPORT informacoes_adicionais {
 public:
     informacoes_adicionais() noexcept;
     // url_qrcode is used as it stands: the QR string follows its last

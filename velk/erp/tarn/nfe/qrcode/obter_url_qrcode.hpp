@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/qrcode/informacoes_adicionais.hpp>
 #include <velk/xml/document.hpp>
@@ -35,7 +36,8 @@ namespace velk::erp::inline v4::tarn::nfe {
 // "identificador_destinatario", "valor_total", "valor_icms"). After a
 // generator failure the text returned is the page alone: always look at the
 // stack.
-std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::document const& documento,
-                             std::string const& id_token, std::string const& csc, core::result::stack& stack);
+VELK_EXPORT std::string obter_url_qrcode(informacoes_adicionais const& informacoes, xml::document const& documento,
+                                         std::string const& id_token, std::string const& csc,
+                                         core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -10,7 +11,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 
 // Failures of the consumer QR code of an NFC-e and of the choice of its
 // consultation page ("tarn-nfe-processo-gerar-qrcode").
-class processo_gerar_qrcode_result_category final : public core::result::table_category {
+class VELK_EXPORT processo_gerar_qrcode_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<processo_gerar_qrcode_result_category, N, Kinds...>;

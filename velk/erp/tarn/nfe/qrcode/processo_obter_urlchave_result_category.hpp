@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe {
 // ("tarn-nfe-processo-obter-urlchave"). The library keeps no such table: the
 // text always comes from the caller, and this category is for callers that
 // keep one. The state and the environment are written as their numbers.
-class processo_obter_urlchave_result_category final : public core::result::table_category {
+class VELK_EXPORT processo_obter_urlchave_result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<processo_obter_urlchave_result_category, N, Kinds...>;

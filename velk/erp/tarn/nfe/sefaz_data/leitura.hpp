@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
@@ -21,12 +22,12 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data {
 // by local name. The walk is depth first in document order and a path takes
 // its first occurrence; a path not wanted is never in the map. The pointers
 // are into `raiz` and valid while it is neither changed nor destroyed.
-std::unordered_map<std::string, xml::element const*> find_elements_by_path(xml::element const& raiz,
-                                                                           std::vector<std::string> const& paths);
+VELK_EXPORT std::unordered_map<std::string, xml::element const*>
+find_elements_by_path(xml::element const& raiz, std::vector<std::string> const& paths);
 
 // The first direct child element with exactly that local name, or null.
-xml::element const* find_child_element(xml::element const& pai, std::string const& nome);
-xml::element* find_child_element(xml::element& pai, std::string const& nome);
+VELK_EXPORT xml::element const* find_child_element(xml::element const& pai, std::string const& nome);
+VELK_EXPORT xml::element* find_child_element(xml::element& pai, std::string const& nome);
 
 // Reading a value of a found element, for from_xml. `element_name` is the
 // path from the message root that a failure names ("retConsStatServ/cStat").

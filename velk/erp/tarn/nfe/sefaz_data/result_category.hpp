@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/detail_kinds.hpp>
 #include <velk/core/result/row.hpp>
 #include <velk/core/result/table_category.hpp>
@@ -7,7 +8,7 @@
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data {
 
 // Failures of reading and writing the SEFAZ messages ("erp-tarn-sefaz-data").
-class result_category final : public core::result::table_category {
+class VELK_EXPORT result_category final : public core::result::table_category {
 public:
     template <int N, class... Kinds>
     using row = core::result::row<result_category, N, Kinds...>;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/lote_autorizacao.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_autorizacao.hpp>
@@ -13,7 +14,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 // are sent alike and both answers are read by resposta::lote_autorizacao.
 // Querying the receipt of an asynchronous batch is the caller's next call
 // (consulta_recibo): nothing here polls or retries.
-class autorizacao : public servico_base {
+class VELK_EXPORT autorizacao : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::lote_autorizacao;
     using resposta_type = sefaz_data::resposta::lote_autorizacao;

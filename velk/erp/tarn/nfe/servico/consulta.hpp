@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/consulta.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/consulta.hpp>
@@ -9,7 +10,7 @@
 namespace velk::erp::inline v4::tarn::nfe::servico {
 
 // The query of a document by its access key (NFeConsultaProtocolo).
-class consulta : public servico_base {
+class VELK_EXPORT consulta : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::consulta;
     using resposta_type = sefaz_data::resposta::consulta;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/consulta_gtin.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/consulta_gtin.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 // another shape than the other services': no nfeCabecMsg header, whatever
 // namespace_header says, and the body tag ccgConsGTIN holding nfeDadosMsg
 // (without prefix) with the consGTIN inside.
-class consulta_gtin : public servico_base {
+class VELK_EXPORT consulta_gtin : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::consulta_gtin;
     using resposta_type = sefaz_data::resposta::consulta_gtin;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/consulta_recibo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_autorizacao.hpp>
@@ -11,7 +12,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 // The query of an asynchronous batch by its receipt (NFeRetAutorizacao). An
 // answer "in processing" (105) is a success: asking again later is the
 // caller's decision.
-class consulta_recibo : public servico_base {
+class VELK_EXPORT consulta_recibo : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::consulta_recibo;
     using resposta_type = sefaz_data::resposta::lote_autorizacao;

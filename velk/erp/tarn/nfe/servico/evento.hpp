@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/lote_evento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/lote_evento.hpp>
@@ -11,7 +12,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 
 // The event service (NFeRecepcaoEvento): sends a batch of signed events and
 // reads the answer to each.
-class evento : public servico_base {
+class VELK_EXPORT evento : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::lote_evento;
     using resposta_type = sefaz_data::resposta::lote_evento;

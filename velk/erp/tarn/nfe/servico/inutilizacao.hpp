@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/inutilizacao.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/inutilizacao.hpp>
@@ -10,7 +11,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 
 // The disablement service (NFeInutilizacao): sends a signed inutNFe as it
 // stands, so sign it first.
-class inutilizacao : public servico_base {
+class VELK_EXPORT inutilizacao : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::inutilizacao;
     using resposta_type = sefaz_data::resposta::inutilizacao;

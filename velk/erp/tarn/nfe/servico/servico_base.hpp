@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/cryptography/pkcs12.hpp>
@@ -32,7 +33,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 // service object is always usable. Before executar, set_auth and set_timeout
 // must have been called; a new object has no time-out, and a call without one
 // fails before sending (servico_result_category code 3).
-class servico_base {
+class VELK_EXPORT servico_base {
 public:
     // Copies of the two make the certificate of the calls to come; calls
     // already made with the former one are not affected.

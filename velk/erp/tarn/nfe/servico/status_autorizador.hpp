@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/status_autorizador.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/status_autorizador.hpp>
@@ -10,7 +11,7 @@ namespace velk::erp::inline v4::tarn::nfe::servico {
 
 // The status service of an authorizer (NfeStatusServico): the shortest call
 // from request to response.
-class status_autorizador : public servico_base {
+class VELK_EXPORT status_autorizador : public servico_base {
 public:
     using requisicao_type = sefaz_data::requisicao::status_autorizador;
     using resposta_type = sefaz_data::resposta::status_autorizador;

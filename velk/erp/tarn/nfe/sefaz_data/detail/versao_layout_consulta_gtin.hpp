@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/converter.hpp>
+#include <velk/core/export.hpp>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::detail {
 
@@ -18,14 +19,14 @@ inline namespace v3 {
 // "1.00"; asks for 4 bytes of room, and an unknown value fails whatever the
 // room.
 template <>
-struct chars_converter<erp::tarn::nfe::sefaz_data::detail::versao_layout_consulta_gtin> {
+struct VELK_EXPORT chars_converter<erp::tarn::nfe::sefaz_data::detail::versao_layout_consulta_gtin> {
     static converter_status make_chars(char* buffer, unsigned long& size,
                                        erp::tarn::nfe::sefaz_data::detail::versao_layout_consulta_gtin value);
 };
 
 // Exactly the 4 characters "1.00".
 template <>
-struct value_converter<erp::tarn::nfe::sefaz_data::detail::versao_layout_consulta_gtin> {
+struct VELK_EXPORT value_converter<erp::tarn::nfe::sefaz_data::detail::versao_layout_consulta_gtin> {
     static converter_status make_value(erp::tarn::nfe::sefaz_data::detail::versao_layout_consulta_gtin& value,
                                        char const* text, unsigned long size);
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/protocolo_nfe.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::distribuicao {
 // pairing is structural: nothing checks that the protocol is about this
 // document, nor that it authorizes it; the caller knows the two belong
 // together. The object is its tree; the parts are read from it on request.
-class autorizacao {
+class VELK_EXPORT autorizacao {
 public:
     // An empty nfeProc.
     autorizacao();

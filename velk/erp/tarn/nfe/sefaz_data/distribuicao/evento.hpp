@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/evento.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/resposta_evento.hpp>
@@ -10,7 +11,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::distribuicao {
 // An event with the authority's answer (procEventoNFe), kept as the proof of
 // a cancellation, a correction letter, an EPEC or a manifestation. As with
 // nfeProc the pairing is structural, and the object is its tree.
-class evento {
+class VELK_EXPORT evento {
 public:
     // An empty procEventoNFe.
     evento();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/inutilizacao.hpp>
@@ -13,7 +14,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::distribuicao {
 // layout's schema gives it; one stored as procInutNFe reads as well. Unlike
 // the other archives it keeps the request and the answer as objects beside
 // its tree.
-class inutilizacao {
+class VELK_EXPORT inutilizacao {
 public:
     // An empty ProcInutNFe with default parts.
     inutilizacao();

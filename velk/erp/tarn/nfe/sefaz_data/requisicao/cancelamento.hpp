@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
@@ -22,7 +23,7 @@ enum class tipo_cancelamento : int {
 // The payload of a cancellation event: its detEvento, built once by from_data
 // and kept. Lengths and characters of the texts are not checked: the
 // authority judges them.
-class cancelamento {
+class VELK_EXPORT cancelamento {
 public:
     cancelamento();
     cancelamento(cancelamento const& other);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 #include <velk/xml/document.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // The payload of a correction letter (event 110110): its detEvento, built once
 // by from_data and kept. The text of the correction goes out as given; the
 // authority judges its length.
-class carta_correcao {
+class VELK_EXPORT carta_correcao {
 public:
     carta_correcao();
     carta_correcao(carta_correcao const& other);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/ambiente.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
@@ -11,7 +12,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 // The question for the situation of one NF-e by its access key (consSitNFe).
 // Holds no XML: get_xml writes it anew each time.
-class consulta {
+class VELK_EXPORT consulta {
 public:
     consulta();
     consulta(consulta const& other);

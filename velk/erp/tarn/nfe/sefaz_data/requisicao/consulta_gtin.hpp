@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/detail/versao_layout_consulta_gtin.hpp>
@@ -10,7 +11,7 @@
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 // The question to the GTIN catalogue about one barcode (consGTIN).
-class consulta_gtin {
+class VELK_EXPORT consulta_gtin {
 public:
     consulta_gtin();
     consulta_gtin(consulta_gtin const& other);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/estado.hpp>
 #include <velk/erp/tarn/ambiente.hpp>
@@ -13,7 +14,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // The question for the processing result of an authorization batch by its
 // receipt number (consReciNFe). The state and the model are not written: the
 // service chooses the authorizer by them.
-class consulta_recibo {
+class VELK_EXPORT consulta_recibo {
 public:
     consulta_recibo();
     consulta_recibo(consulta_recibo const& other);

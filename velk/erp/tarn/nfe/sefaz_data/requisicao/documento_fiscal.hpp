@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/pkcs12.hpp>
@@ -26,7 +27,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // from them. Operations that add to the tree (the QR code supplement, the
 // signature) live in source files of their own and share the hidden data
 // through requisicao/detail/documento_fiscal_dados.hpp.
-class documento_fiscal {
+class VELK_EXPORT documento_fiscal {
 public:
     documento_fiscal();
     // Copies carry the tree and the place of infNFe in it.

@@ -2,6 +2,7 @@
 
 #include <velk/core/datetime.hpp>
 #include <velk/core/decimal.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/core/variant.hpp>
 #include <velk/erp/estado.hpp>
@@ -18,7 +19,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // issued in contingency, registered with the national environment before the
 // note itself can be authorized. Its detEvento is built once by from_data and
 // kept.
-class epec_nfe {
+class VELK_EXPORT epec_nfe {
 public:
     // The recipient of the note and the note's totals: the dest of the event.
     class destinatario {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/core/variant.hpp>
 #include <velk/cryptography/pkcs12.hpp>
@@ -24,7 +25,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // shares (infEvento with the note's key, the type, the sequence number) around
 // the payload's detEvento. The tree is built once by from_data and is the
 // event: assinar signs it in place, and get_xml hands it out.
-class evento {
+class VELK_EXPORT evento {
 public:
     // The payload: none in a default event, else the one it was made from.
     using informacoes =

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/erp/estado.hpp>
@@ -17,7 +18,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // numbers that were skipped and will never be issued are declared so to the
 // authority. Unlike the simple queries it is signed, so it keeps its tree:
 // from_data writes it once, assinar signs it in place, get_xml gives it.
-class inutilizacao {
+class VELK_EXPORT inutilizacao {
 public:
     inutilizacao();
     inutilizacao(inutilizacao const& other);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/fiscal/nota_fiscal.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
@@ -17,7 +18,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 // query later (0). The batch keeps its own copies of the trees; documento_fiscal
 // objects are made from them when asked for. Any number of documents may be
 // appended; get_xml writes only what the layout admits (1 to 50).
-class lote_autorizacao {
+class VELK_EXPORT lote_autorizacao {
 public:
     // An empty batch of layout 3.10, identifier 0, synchronous.
     lote_autorizacao();

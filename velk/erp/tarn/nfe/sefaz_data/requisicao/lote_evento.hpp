@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/evento.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 // A batch of events for the event service (envEvento): its number and the
 // events, signed beforehand, in the order they were appended.
-class lote_evento {
+class VELK_EXPORT lote_evento {
 public:
     lote_evento();
     lote_evento(lote_evento const& other);

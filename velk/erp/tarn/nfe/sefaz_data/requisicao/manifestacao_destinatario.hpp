@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 // The payload of the recipient's answer about a note issued against it
 // (events 210200 to 210240): its detEvento, built once by from_data and kept.
-class manifestacao_destinatario {
+class VELK_EXPORT manifestacao_destinatario {
 public:
     // In the order of the event types 210200, 210210, 210220 and 210240.
     enum class tipo_manifestacao : int {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/estado.hpp>
 #include <velk/erp/tarn/ambiente.hpp>
@@ -12,7 +13,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 // The status query of an authorizer (consStatServ): is its service running
 // for this state and environment?
-class status_autorizador {
+class VELK_EXPORT status_autorizador {
 public:
     // Version 3.10, homologation, the first state.
     status_autorizador();

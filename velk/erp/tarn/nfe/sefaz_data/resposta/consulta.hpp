@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
@@ -18,7 +19,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 // The answer to the query of a document by its access key (retConsSitNFe):
 // the document's situation (100 authorized, 101 cancelled, 110 denied, 217
 // unknown to the authority...) with its protocol when it has one.
-class consulta {
+class VELK_EXPORT consulta {
 public:
     consulta();
     consulta(consulta const& other);

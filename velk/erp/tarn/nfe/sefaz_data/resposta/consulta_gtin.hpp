@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
@@ -15,7 +16,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 // The GTIN catalogue's answer about one barcode: the result wrapper
 // nfeResultMsg with retConsGTIN inside, kept whole. Status 9490 is a barcode
 // found, with the product's description, NCM and CEST.
-class consulta_gtin {
+class VELK_EXPORT consulta_gtin {
 public:
     consulta_gtin();
     consulta_gtin(consulta_gtin const& other);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/estado.hpp>
@@ -18,7 +19,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 // The authority's answer to a disablement (retInutNFe). Status 102 means the
 // range is disabled and nProt is its protocol; a rejection may leave out every
 // echo of the request, which is why those fields are optional.
-class inutilizacao {
+class VELK_EXPORT inutilizacao {
 public:
     inutilizacao();
     inutilizacao(inutilizacao const& other);

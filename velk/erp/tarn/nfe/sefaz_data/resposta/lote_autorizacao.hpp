@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
@@ -18,7 +19,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 // with one protocol per document; an asynchronous one comes back received
 // (103) with the receipt in infRec, whose query later gives the protocols.
 // A status of the batch other than these means nothing in it was looked at.
-class lote_autorizacao {
+class VELK_EXPORT lote_autorizacao {
 public:
     lote_autorizacao();
     lote_autorizacao(lote_autorizacao const& other);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/resposta_evento.hpp>
@@ -15,7 +16,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 // The event service's answer to a batch (retEnvEvento): the batch's own status
 // (128 when its events were processed) and the answer to each event, in the
 // order of the tree. A batch rejected as a whole has no event answers.
-class lote_evento {
+class VELK_EXPORT lote_evento {
 public:
     lote_evento();
     lote_evento(lote_evento const& other);

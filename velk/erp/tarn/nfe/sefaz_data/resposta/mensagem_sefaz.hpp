@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/erp/tarn/detail/valor_oculto.hpp>
 
@@ -9,7 +10,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 
 // The authority's free message to the taxpayer that a protocol may carry
 // (cMsg, xMsg): a notice of the state, not a status.
-class mensagem_sefaz {
+class VELK_EXPORT mensagem_sefaz {
 public:
     mensagem_sefaz();
     mensagem_sefaz(mensagem_sefaz const& other);

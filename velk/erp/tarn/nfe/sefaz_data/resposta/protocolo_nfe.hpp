@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
@@ -17,7 +18,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 // the protocol number authorizes it, 110 denies it, any other status rejects
 // it and carries no protocol. The element is what goes beside the document
 // into its archive (nfeProc), so it is kept exactly as received.
-class protocolo_nfe {
+class VELK_EXPORT protocolo_nfe {
 public:
     protocolo_nfe();
     protocolo_nfe(protocolo_nfe const& other);

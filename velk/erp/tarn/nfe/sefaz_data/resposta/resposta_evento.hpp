@@ -1,5 +1,6 @@
 #pragma once
 
+#include <velk/core/export.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/core/variant.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/resposta/retorno_evento.hpp>
@@ -15,6 +16,6 @@ using resposta_evento = core::variant<cancelamento, carta_correcao, epec_nfe, ma
 // with the same name when it is no event type; a root of another name is code
 // 1 "retEvento". On any failure the result holds a default cancelamento and
 // the stack tells why.
-resposta_evento resposta_evento_from_xml(xml::element const& root, core::result::stack& stack);
+VELK_EXPORT resposta_evento resposta_evento_from_xml(xml::element const& root, core::result::stack& stack);
 
 }  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta

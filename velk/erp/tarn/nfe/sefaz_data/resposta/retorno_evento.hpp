@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/erp/tarn/chave_acesso.hpp>
@@ -25,7 +26,7 @@ enum class familia_evento : int {
 // The authority's answer to one event (retEvento), as the answer classes of
 // the event families share it: they differ only in the event types they
 // accept.
-class retorno_evento {
+class VELK_EXPORT retorno_evento {
 public:
     // cStat, xMotivo and dhRegEvento (required); chNFe and nProt, the number
     // under which the event was registered (absent from a rejection).
@@ -73,10 +74,10 @@ public:
     static retorno_familia from_xml(xml::document const& documento, core::result::stack& stack);
 };
 
-extern template class retorno_familia<familia_evento::cancelamento>;
-extern template class retorno_familia<familia_evento::carta_correcao>;
-extern template class retorno_familia<familia_evento::epec_nfe>;
-extern template class retorno_familia<familia_evento::manifestacao_destinatario>;
+extern template class VELK_EXPORT retorno_familia<familia_evento::cancelamento>;
+extern template class VELK_EXPORT retorno_familia<familia_evento::carta_correcao>;
+extern template class VELK_EXPORT retorno_familia<familia_evento::epec_nfe>;
+extern template class VELK_EXPORT retorno_familia<familia_evento::manifestacao_destinatario>;
 
 // The answer to a cancellation, ordinary or by substitution; its nProt is the
 // protocol of the cancellation.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <velk/core/datetime.hpp>
+#include <velk/core/export.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/xml/document.hpp>
@@ -14,7 +15,7 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::resposta {
 
 // The authorizer's answer to the status query (retConsStatServ). Status 107
 // means the service is running; whatever the status, reading it is a success.
-class status_autorizador {
+class VELK_EXPORT status_autorizador {
 public:
     status_autorizador();
     status_autorizador(status_autorizador const& other);
