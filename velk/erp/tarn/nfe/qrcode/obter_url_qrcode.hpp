@@ -18,8 +18,9 @@ namespace velk::erp::inline v4::tarn::nfe {
 // stands, whatever the token, CSC or page: nothing is generated then.
 //
 // id_token is the number of the CSC: exactly 6 digits in version 1.00, 1 to
-// 6 digits in version 2.00 once its leading zeros are dropped (a token of
-// zeros only is refused: no CSC has that number). csc is the taxpayer's
+// 6 digits in version 2.00 once its leading zeros are dropped, or the token
+// "0" (which the layout admits; "00" and longer runs of zeros it does not).
+// csc is the taxpayer's
 // secret code; it is only hashed, never stored nor reported.
 //
 // Everything the result holds must stand in the CDATA section of qrCode and

@@ -132,7 +132,7 @@ TEST(obter_url_qrcode, refuses_tokens_and_csc_by_the_rules_of_each_version)
         {"2.00, empty token", versao_200, true, "", csc, 3, {{"value", ""}}},
         {"2.00, 7 zeros stay 7", versao_200, false, "0000000", csc, 3, {{"value", "0000000"}}},
         {"2.00, 6 zeros: no CSC has that number", versao_200, true, "000000", csc, 3, {{"value", "000000"}}},
-        {"2.00, one zero", versao_200, false, "0", csc, 3, {{"value", "0"}}},
+        {"2.00, two zeros (\"0\" alone is a token)", versao_200, false, "00", csc, 3, {{"value", "00"}}},
         {"1.00, a letter", versao_100, false, "12345A", csc, 3, {{"value", "12345A"}}},
         {"1.00, a carriage return", versao_100, false, "12345\r", csc, 3, {{"value", "12345\r"}}},
         {"2.00, a letter", versao_200, false, "0012a", csc, 3, {{"value", "12a"}}},

@@ -59,10 +59,10 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
         qrcode += "|" + digest_hex;
     }
 
-    // The number of the CSC without zeros in front: 1 to 6 digits, and not
-    // zero, which is no CSC's number.
-    if (id_token.empty() || id_token.size() > id_token_max_length || id_token.front() == '0' ||
-        !so_digitos(id_token)) {
+    // The number of the CSC without zeros in front: 1 to 6 digits, or the
+    // single digit 0, as the layout's pattern for the QR code reads it.
+    bool const numero = id_token == "0" || (!id_token.empty() && id_token.front() != '0' && so_digitos(id_token));
+    if (!numero || id_token.size() > id_token_max_length) {
         core::result::fresh<processo_gerar_qrcode_result_category::id_token_invalido>(stack, id_token);
         return {};
     }

@@ -16,8 +16,8 @@ namespace velk::erp::inline v4::tarn::nfe::detail {
 //
 // Offline means the emission type of the access key (not of ide) is the
 // NFC-e offline contingency (tpEmis 9); only then are the date, vNF and the
-// digest looked at. The token must be 1 to 6 digits, the first not 0, and is
-// written as given (callers strip its leading zeros first, see
+// digest looked at. The token must be 1 to 6 digits, the first not 0, or "0"
+// alone, and is written as given (callers strip its leading zeros first, see
 // sem_zeros_a_esquerda). Failures as in version 1.00: code 8 chained on a
 // value without text or for an amount the QR code cannot carry, then
 // codes 7, 3, 2 and 6 replacing the stack; any failure gives an empty string.
