@@ -66,7 +66,7 @@ private:
 
 // The answer class of one family.
 template <familia_evento Familia>
-class retorno_familia : public retorno_evento {
+class VELK_EXPORT retorno_familia : public retorno_evento {
 public:
     // Reads a retEvento (see retorno_evento::ler).
     static retorno_familia from_xml(xml::element const& root, core::result::stack& stack);
@@ -74,10 +74,10 @@ public:
     static retorno_familia from_xml(xml::document const& documento, core::result::stack& stack);
 };
 
-extern template class VELK_EXPORT retorno_familia<familia_evento::cancelamento>;
-extern template class VELK_EXPORT retorno_familia<familia_evento::carta_correcao>;
-extern template class VELK_EXPORT retorno_familia<familia_evento::epec_nfe>;
-extern template class VELK_EXPORT retorno_familia<familia_evento::manifestacao_destinatario>;
+extern template class retorno_familia<familia_evento::cancelamento>;
+extern template class retorno_familia<familia_evento::carta_correcao>;
+extern template class retorno_familia<familia_evento::epec_nfe>;
+extern template class retorno_familia<familia_evento::manifestacao_destinatario>;
 
 // The answer to a cancellation, ordinary or by substitution; its nProt is the
 // protocol of the cancellation.
