@@ -20,7 +20,7 @@ packages=(
     libxml2-dev libssl-dev libcurl4-openssl-dev libprotobuf-dev protobuf-compiler
     libgtest-dev libgmock-dev libbenchmark-dev
     libcpp-httplib-dev
-    openssl curl xmlsec1 libxml2-utils
+    openssl curl xmlsec1 libxml2-utils python3
 )
 
 ensure_packages() {
