@@ -14,10 +14,10 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     erp::tarn::chave_acesso chave;
     core::result::stack stack;
     if (!core::read_value(chave, text, stack)) {
-        fuzz::require(stack.has_failed());
+        VELK_FUZZ_REQUIRE(stack.has_failed());
         return 0;
     }
     std::string const written = core::make_string(chave, stack);
-    fuzz::require(!stack.has_failed() && written == text);
+    VELK_FUZZ_REQUIRE(!stack.has_failed() && written == text);
     return 0;
 }

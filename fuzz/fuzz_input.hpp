@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <optional>
 
@@ -21,10 +22,14 @@ inline core::byte_array bytes_of(std::uint8_t const* data, std::size_t size)
     return bytes;
 }
 
-// A broken promise is a crash libFuzzer keeps, with its input.
-inline void require(bool promise)
+// A broken promise is a crash libFuzzer keeps, with its input, and the line
+// of the promise.
+#define VELK_FUZZ_REQUIRE(promise) ::velk::fuzz::require((promise), #promise, __FILE__, __LINE__)
+
+inline void require(bool promise, char const* text, char const* file, int line)
 {
     if (!promise) {
+        std::fprintf(stderr, "%s:%d: broken promise: %s\n", file, line, text);
         std::abort();
     }
 }
@@ -33,7 +38,7 @@ inline void require(bool promise)
 // failure without an item, never a success that leaves one.
 inline void require_told(bool succeeded, core::result::stack const& stack)
 {
-    require(succeeded != stack.has_failed());
+    VELK_FUZZ_REQUIRE(succeeded != stack.has_failed());
 }
 
 // The tree of the input, or nothing when the XML reader refuses it.

@@ -17,6 +17,6 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     }
     (void)bundle.get_certificate().to_byte_array(cryptography::encoding::der, stack);
     (void)bundle.get_evp_private_key().to_byte_array(cryptography::encoding::der, stack);
-    fuzz::require(!stack.has_failed());
+    VELK_FUZZ_REQUIRE(!stack.has_failed());
     return 0;
 }

@@ -17,7 +17,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     core::result::stack stack;
     soap::message const answer = soap::parse_response(fuzz::bytes_of(data, size), stack);
     if (stack.has_failed()) {
-        fuzz::require(answer.body.empty());
+        VELK_FUZZ_REQUIRE(answer.body.empty());
         return 0;
     }
     std::vector<std::string> const names{"nfeResultMsg", "nfeStatusServicoNFResult", "nfeAutorizacaoLoteResult"};

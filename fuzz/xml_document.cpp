@@ -16,11 +16,11 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
     }
     core::result::stack stack;
     core::byte_array const written = xml::document::save(*document, stack);
-    fuzz::require(!stack.has_failed() && !written.empty());
+    VELK_FUZZ_REQUIRE(!stack.has_failed() && !written.empty());
 
     xml::document again;
-    fuzz::require(again.load(written, stack));
-    fuzz::require(xml::document::save(again, stack) == written);
+    VELK_FUZZ_REQUIRE(again.load(written, stack));
+    VELK_FUZZ_REQUIRE(xml::document::save(again, stack) == written);
 
     core::byte_array const canonical = xml::canonicalize(written, {}, stack);
     fuzz::require_told(!canonical.empty(), stack);
