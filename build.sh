@@ -143,10 +143,10 @@ fuzz)
         found=build-fuzz/corpus/$name
         findings=build-fuzz/findings/$name
         mkdir -p "$found" "$findings" "fuzz/corpus/$name"
-        options=(-max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048 -max_len=65536
+        options=(-max_total_time="$seconds" -timeout=10 -rss_limit_mb=2048
             -artifact_prefix="$findings/" -print_final_stats=1)
         if grep -q "^// fuzz-dictionary: xml" "fuzz/$name.cpp"; then
-            options+=(-dict=fuzz/xml.dict)
+            options+=(-dict=fuzz/xml.dict -max_len=65536)
         fi
         echo "== fuzz-$name, $seconds s"
         # One program at a time, at the lowest priority: the machine's other

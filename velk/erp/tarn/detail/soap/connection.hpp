@@ -7,6 +7,7 @@
 #include <velk/network/proxy.hpp>
 
 #include <chrono>
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -27,6 +28,16 @@ public:
         std::string ca_info_path;
     };
 
+    // The largest answer read, in bytes: far above what an authority sends
+    // (a batch's 50 protocols, a query by key with its events, are tens of
+    // kilobytes), small enough that a server that never stops costs no more
+    // than this, and the most the XML reader takes (libxml2 reads no further
+    // than 10,000,000 bytes into a document). A larger answer is refused as
+    // it arrives, never held whole, whether its length is announced or not,
+    // and counted as libcurl hands it over, after any content encoding is
+    // undone.
+    static constexpr std::size_t largest_answer = 10'000'000;
+
     connection(core::optional<network::proxy> proxy, std::chrono::milliseconds timeout,
                std::shared_ptr<auth_impl const> auth);
 
@@ -36,7 +47,9 @@ public:
     // message, on an empty endpoint or action (servico code 5, nothing sent),
     // a zero time-out (servico code 3, nothing sent), a transport failure
     // (curl_result_category, with libcurl's text in "curl_message"), an HTTP
-    // status of 400 or more (curl code 8) and whatever parse_response refuses.
+    // status of 400 or more (curl code 8), an answer larger than
+    // largest_answer (curl code 9, the transfer stopped, under servico code 2
+    // naming the limit) and whatever parse_response refuses.
     // Only TLS 1.2 or later is spoken, a redirect is followed to https only,
     // and memory running out is reported (curl code 10), never thrown. Calls
     // may run at the same time in any threads: nothing is shared but the
