@@ -3,13 +3,13 @@
 #include <velk/core/result/report.hpp>
 #include <velk/xml/detail/libxml2_session.hpp>
 #include <velk/xml/detail/namespace_uris.hpp>
+#include <velk/xml/document.hpp>
 #include <velk/xml/xml_result_category.hpp>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
-#include <climits>
 #include <string>
 
 namespace velk::xml {
@@ -57,7 +57,7 @@ void libxml2_document_deleter::operator()(_xmlDoc* document) const
 libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result::stack& stack)
 {
     libxml2_session session;
-    if (bytes.empty() || bytes.size() > static_cast<std::size_t>(INT_MAX)) {
+    if (bytes.empty() || bytes.size() > document::largest_input) {
         report_malformed(stack, session, bytes.empty() ? "Document is empty" : "Document is too large");
         return nullptr;
     }

@@ -286,6 +286,7 @@ TEST(document_load, hostile_and_malformed_input_fails_cleanly)
         {"namespace URI of a prefix whose colon follows a fragment", "<a><b xmlns:x=\"ur#n:x\"/></a>", 1},
         {"namespace URI that is none", "<a><b xmlns:p=\"urn:a b&amp;c&amp;d\"/></a>", 1},
         {"empty namespace URI of a prefix", "<a xmlns:p=\"\"/>", 1},
+        {"one byte beyond the largest input", "<a/>" + std::string(document::largest_input - 3, ' '), 1},
     };
     testing::internal::CaptureStderr();
     for (auto const& item : cases) {

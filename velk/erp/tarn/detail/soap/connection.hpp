@@ -5,6 +5,7 @@
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/erp/tarn/detail/soap/message.hpp>
 #include <velk/network/proxy.hpp>
+#include <velk/xml/document.hpp>
 
 #include <chrono>
 #include <cstddef>
@@ -28,15 +29,14 @@ public:
         std::string ca_info_path;
     };
 
-    // The largest answer read, in bytes: far above what an authority sends
-    // (a batch's 50 protocols, a query by key with its events, are tens of
-    // kilobytes), small enough that a server that never stops costs no more
-    // than this, and the most the XML reader takes (libxml2 reads no further
-    // than 10,000,000 bytes into a document). A larger answer is refused as
+    // The largest answer read, in bytes: the most the XML reader takes, far
+    // above what an authority sends (a batch's 50 protocols, a query by key
+    // with its events, are tens of kilobytes), and small enough that a server
+    // that never stops costs no more than this. A larger answer is refused as
     // it arrives, never held whole, whether its length is announced or not,
     // and counted as libcurl hands it over, after any content encoding is
     // undone.
-    static constexpr std::size_t largest_answer = 10'000'000;
+    static constexpr std::size_t largest_answer = xml::document::largest_input;
 
     connection(core::optional<network::proxy> proxy, std::chrono::milliseconds timeout,
                std::shared_ptr<auth_impl const> auth);
