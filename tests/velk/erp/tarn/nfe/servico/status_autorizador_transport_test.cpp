@@ -151,6 +151,15 @@ TEST(status_autorizador_transport, an_answer_beyond_the_limit_is_refused_as_it_a
 {
     constexpr std::size_t limit = soap::connection::largest_answer;
     constexpr std::size_t megabyte = 1024 * 1024;
+    // The answer at most and the copies its reading makes: well below the 200
+    // MB sent. AddressSanitizer keeps freed memory aside for a while (the
+    // answer's former buffers, the server's pieces), which still stays below
+    // what holding the whole answer would cost there, twice its size at least.
+#if defined(__SANITIZE_ADDRESS__)
+    constexpr std::size_t most_growth = 16 * limit;
+#else
+    constexpr std::size_t most_growth = 4 * limit;
+#endif
     std::string const status_answer = velk::test::soap_envelope(
         "nfeResultMsg",
         "<retConsStatServ versao=\"4.00\" xmlns=\"http://www.portalfiscal.inf.br/nfe\"><tpAmb>2</tpAmb>"
@@ -177,9 +186,7 @@ TEST(status_autorizador_transport, an_answer_beyond_the_limit_is_refused_as_it_a
         stack result;
         auto const answer = ready_service(std::chrono::milliseconds(120000))
                                 .executar(status_request(), server_at(authority.url()), result);
-        // The answer at most, the copies its reading makes, and what a
-        // sanitized build keeps of freed memory: far below the 200 MB sent.
-        EXPECT_LT(peak_resident_bytes() - before, 6 * limit);
+        EXPECT_LT(peak_resident_bytes() - before, most_growth);
         if (!each.refused) {
             EXPECT_FALSE(result.has_failed()) << result.to_string();
             EXPECT_EQ(answer.get_codigo_status(), 107);
