@@ -44,7 +44,7 @@ function(velk_add_library target)
     # Every symbol a library needs must come from what it links: a missing
     # export of a family library shows here, not in a caller's program. The
     # sanitizers' runtime is only linked into programs, so not with them.
-    if(NOT VELK_SANITIZE AND NOT VELK_TSAN)
+    if(NOT VELK_SANITIZE AND NOT VELK_TSAN AND NOT VELK_FUZZ)
         target_link_options(${target} PRIVATE LINKER:--no-undefined)
     endif()
 
