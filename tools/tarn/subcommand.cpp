@@ -18,6 +18,9 @@ void print_value(std::string const& label, json_value const& value, int depth, s
         return;
     }
     if (value.get_kind() == json_value::kind::object) {
+        if (value.members().empty()) {
+            return;
+        }
         std::fprintf(out, "%s%s:\n", indent.c_str(), label.c_str());
         for (auto const& [name, member] : value.members()) {
             print_value(name, member, depth + 1, out);
