@@ -88,7 +88,7 @@ command_outcome document_checker::check(std::filesystem::path const& file)
     }
 
     std::vector<finding> found;
-    std::string type = name + ": " + std::string(kind->description);
+    std::string type = name + " - " + std::string(kind->description);
     if (kind->key == key_place::document) {
         xmlNode const* const nfe = descend(root, kind->inner_path);
         std::string const model = reading::text_at(nfe, {"infNFe", "ide", "mod"});
