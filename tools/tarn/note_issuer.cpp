@@ -50,8 +50,13 @@ note_issuer::note_issuer(authority_connection const& connection, qrcode_options 
 {
     connection_.configure(autorizacao_);
     connection_.configure(recibo_);
-    // Read once here, before any thread asks for them.
+    // Read once here, before any thread asks for them. The pages serve
+    // NFC-e only: their absence is told by the notes that need them.
     data_.addresses();
+    try {
+        data_.pages();
+    } catch (command_error const&) {
+    }
 }
 
 issued_note note_issuer::issue(std::filesystem::path const& json_file) const
