@@ -7,8 +7,8 @@ namespace velk::tools::tarn {
 namespace {
 
 constexpr std::array<char const*, 7> service_keys = {
-    "status", "autorizacao", "ret_autorizacao", "consulta_protocolo", "inutilizacao", "recepcao_evento",
-    "consulta_gtin"};
+    "status",       "autorizacao",     "ret_autorizacao", "consulta_protocolo",
+    "inutilizacao", "recepcao_evento", "consulta_gtin"};
 
 char const* key_of(web_service service)
 {
@@ -37,9 +37,8 @@ bool address_table::describe(web_service service, erp::tarn::nfe::web_server_inf
     return true;
 }
 
-bool address_table::locate(web_service service, erp::estado uf, erp::tarn::modelo modelo,
-                           erp::tarn::ambiente ambiente, erp::tarn::nfe::web_server_info& info,
-                           std::string& error) const
+bool address_table::locate(web_service service, erp::estado uf, erp::tarn::modelo modelo, erp::tarn::ambiente ambiente,
+                           erp::tarn::nfe::web_server_info& info, std::string& error) const
 {
     if (!describe(service, info, error)) {
         return false;
@@ -59,8 +58,8 @@ bool address_table::locate(web_service service, erp::estado uf, erp::tarn::model
     }
     std::string const endpoint = table_.text_at({"authorizers", authorizer, environment, key_of(service)});
     if (endpoint.empty()) {
-        error = std::string("o autorizador ") + authorizer + " não publica o serviço " + key_of(service) +
-                " em " + (ambiente == erp::tarn::ambiente::producao ? "produção" : "homologação");
+        error = std::string("o autorizador ") + authorizer + " não publica o serviço " + key_of(service) + " em " +
+                (ambiente == erp::tarn::ambiente::producao ? "produção" : "homologação");
         return false;
     }
     info.set_endpoint_url(endpoint);

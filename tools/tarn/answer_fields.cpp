@@ -37,12 +37,12 @@ core::datetime answer_fields::brasilia_now()
     auto const day = floor<days>(local);
     year_month_day const date(day);
     hh_mm_ss const clock(local - day);
-    return core::datetime(core::date(static_cast<unsigned>(date.day()), static_cast<unsigned>(date.month()),
-                                     static_cast<int>(date.year())),
-                          core::time(static_cast<int>(clock.hours().count()),
-                                     static_cast<unsigned>(clock.minutes().count()),
-                                     static_cast<unsigned>(clock.seconds().count()), 0),
-                          -180);
+    return core::datetime(
+        core::date(static_cast<unsigned>(date.day()), static_cast<unsigned>(date.month()),
+                   static_cast<int>(date.year())),
+        core::time(static_cast<int>(clock.hours().count()), static_cast<unsigned>(clock.minutes().count()),
+                   static_cast<unsigned>(clock.seconds().count()), 0),
+        -180);
 }
 
 void answer_fields::set_status(json_value& report, unsigned code, std::string const& reason)

@@ -9,21 +9,18 @@
 
 namespace velk::tools::tarn {
 
-char const* assinar_command::description() const
+assinar_command::assinar_command()
+    : subcommand({"assinar", "assina um documento NF-e ou NFC-e com o certificado A1", "DOC.xml [opções]",
+                  "Assina o documento (o elemento NFe) com a assinatura envelopada, RSA-SHA1 sobre XML\n"
+                  "canônico, e grava DOC-assinado.xml ao lado dele (ou em --saida). Uma assinatura\n"
+                  "anterior é substituída. Uma NFC-e recebe o QR code antes (`tarn qrcode`).\n"
+                  "O certificado é o de --pfx, ou o de teste de --sim-pasta. Saída: 0 assinado,\n"
+                  "2 documento ou certificado inválido.",
+                  1, 1},
+                 joined({certificate_options::specs(),
+                         {{"sim-pasta", "PASTA", "assina com o certificado de teste de `tarn simulador --pasta PASTA`"},
+                          {"saida", "ARQUIVO", "grava o documento assinado neste arquivo"}}}))
 {
-    return "Assina o documento (o elemento NFe) com a assinatura envelopada, RSA-SHA1 sobre XML\n"
-           "canônico, e grava DOC-assinado.xml ao lado dele (ou em --saida). Uma assinatura\n"
-           "anterior é substituída. Uma NFC-e recebe o QR code antes (`tarn qrcode`).\n"
-           "O certificado é o de --pfx, ou o de teste de --sim-pasta. Saída: 0 assinado,\n"
-           "2 documento ou certificado inválido.";
-}
-
-std::vector<option_spec> assinar_command::options() const
-{
-    std::vector<option_spec> all = certificate_options::specs();
-    all.push_back({"sim-pasta", "PASTA", "assina com o certificado de teste de `tarn simulador --pasta PASTA`"});
-    all.push_back({"saida", "ARQUIVO", "grava o documento assinado neste arquivo"});
-    return all;
 }
 
 command_outcome assinar_command::run(option_table const& options, tool_data&)
@@ -38,8 +35,7 @@ command_outcome assinar_command::run(option_table const& options, tool_data&)
     }
     std::filesystem::path const input = options.positionals().front();
     core::result::stack stack;
-    auto documento =
-        erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal::from_xml(read_xml(input), stack);
+    auto documento = erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal::from_xml(read_xml(input), stack);
     throw_if_failed(stack, "leitura do documento");
     documento.assinar(*certificate, stack);
     throw_if_failed(stack, "assinatura");

@@ -19,8 +19,8 @@ std::string first_line(std::filesystem::path const& file)
     std::ifstream in(file);
     std::string line;
     if (!std::getline(in, line)) {
-        throw command_error::usage("simulador", "não foi possível ler " + file.string() +
-                                                    ": o simulador de --sim-pasta está em execução?");
+        throw command_error::usage(
+            "simulador", "não foi possível ler " + file.string() + ": o simulador de --sim-pasta está em execução?");
     }
     return line;
 }
@@ -29,26 +29,23 @@ std::string first_line(std::filesystem::path const& file)
 
 std::vector<option_spec> authority_connection::specs()
 {
-    std::vector<option_spec> all = {
-        {"uf", "UF", "estado do autorizador (sigla, como SP)"},
-        {"ambiente", "AMBIENTE", "homologacao (padrão) ou producao"},
-        {"sim", "", "inicia o simulador incluso numa porta livre e envia a ele"},
-        {"sim-pasta", "PASTA", "envia ao simulador de `tarn simulador --pasta PASTA`"},
-        {"endpoint", "URL", "envia a este endereço em vez do da tabela de endereços"},
-        {"ca", "ARQUIVO", "autoridades certificadoras aceitas do servidor (padrão: as do sistema)"},
-        {"tempo-limite", "SEGUNDOS", "limite de cada chamada (padrão 30)"},
-    };
-    for (option_spec const& spec : certificate_options::specs()) {
-        all.push_back(spec);
-    }
-    return all;
+    return joined({{
+                       {"uf", "UF", "estado do autorizador (sigla, como SP)"},
+                       {"ambiente", "AMBIENTE", "homologacao (padrão) ou producao"},
+                       {"sim", "", "inicia o simulador incluso numa porta livre e envia a ele"},
+                       {"sim-pasta", "PASTA", "envia ao simulador de `tarn simulador --pasta PASTA`"},
+                       {"endpoint", "URL", "envia a este endereço em vez do da tabela de endereços"},
+                       {"ca", "ARQUIVO", "autoridades certificadoras aceitas do servidor (padrão: as do sistema)"},
+                       {"tempo-limite", "SEGUNDOS", "limite de cada chamada (padrão 30)"},
+                   },
+                   certificate_options::specs()});
 }
 
 authority_connection::authority_connection(option_table const& options, tool_data& data) : data_(data)
 {
     ambiente_ = option_values::choose<erp::tarn::ambiente>(
-        options, "ambiente", {{"homologacao", erp::tarn::ambiente::homologacao},
-                              {"producao", erp::tarn::ambiente::producao}},
+        options, "ambiente",
+        {{"homologacao", erp::tarn::ambiente::homologacao}, {"producao", erp::tarn::ambiente::producao}},
         erp::tarn::ambiente::homologacao);
     if (auto const seconds = options.value("tempo-limite")) {
         timeout_ = std::chrono::seconds(option_values::number("--tempo-limite", *seconds, 1, 3600));
@@ -66,8 +63,8 @@ authority_connection::authority_connection(option_table const& options, tool_dat
             throw command_error(exit_status::transport, failure_report::describe("simulador", error.what()));
         }
         core::result::stack stack;
-        tls_ = cryptography::pkcs12::from_byte_array(simulator_->pki().client_pkcs12(),
-                                                     simulator_->pki().password(), stack);
+        tls_ = cryptography::pkcs12::from_byte_array(simulator_->pki().client_pkcs12(), simulator_->pki().password(),
+                                                     stack);
         throw_if_failed(stack, "certificado do simulador");
         ca_file_ = simulator_->pki().ca_file().string();
         if (!endpoint_) {

@@ -73,20 +73,19 @@ batch_runner::outcome batch_runner::run(std::vector<std::filesystem::path> const
         authorized += note.status == exit_status::ok ? 1 : 0;
         refused += note.status == exit_status::refused ? 1 : 0;
     }
-    result.summary = json_value::object()
-                         .set("notas", json_value::number(static_cast<std::uint64_t>(files.size())))
-                         .set("autorizadas", json_value::number(static_cast<std::uint64_t>(authorized)))
-                         .set("recusadas", json_value::number(static_cast<std::uint64_t>(refused)))
-                         .set("falhas", json_value::number(
-                                            static_cast<std::uint64_t>(files.size() - authorized - refused)))
-                         .set("jobs", json_value::number(jobs_))
-                         .set("segundos", json_value::decimal(fixed(seconds, "%.3f")))
-                         .set("notas_por_segundo",
-                              json_value::decimal(fixed(seconds > 0 ? files.size() / seconds : 0.0, "%.1f")))
-                         .set("recursos", json_value::object()
-                                              .set("inicio", before.to_json())
-                                              .set("aquecido", warm.to_json())
-                                              .set("fim", last.to_json()));
+    result.summary =
+        json_value::object()
+            .set("notas", json_value::number(static_cast<std::uint64_t>(files.size())))
+            .set("autorizadas", json_value::number(static_cast<std::uint64_t>(authorized)))
+            .set("recusadas", json_value::number(static_cast<std::uint64_t>(refused)))
+            .set("falhas", json_value::number(static_cast<std::uint64_t>(files.size() - authorized - refused)))
+            .set("jobs", json_value::number(jobs_))
+            .set("segundos", json_value::decimal(fixed(seconds, "%.3f")))
+            .set("notas_por_segundo", json_value::decimal(fixed(seconds > 0 ? files.size() / seconds : 0.0, "%.1f")))
+            .set("recursos", json_value::object()
+                                 .set("inicio", before.to_json())
+                                 .set("aquecido", warm.to_json())
+                                 .set("fim", last.to_json()));
     return result;
 }
 

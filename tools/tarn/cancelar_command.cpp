@@ -13,20 +13,18 @@ namespace velk::tools::tarn {
 
 namespace requisicao = erp::tarn::nfe::sefaz_data::requisicao;
 
-char const* cancelar_command::description() const
+cancelar_command::cancelar_command()
+    : subcommand({"cancelar", "cancela uma nota autorizada (evento 110111)",
+                  "CHAVE|NFEPROC.xml --justificativa TEXTO [opções]",
+                  "Registra o cancelamento da nota no autorizador. A nota vem pela chave, com o protocolo\n"
+                  "de autorização em --protocolo, ou pelo seu nfeProc, que traz os dois. A justificativa\n"
+                  "tem de 15 a 255 caracteres. Saída: 0 registrado (135, 151), 1 recusado, 2 uso inválido,\n"
+                  "3 falha de transporte.",
+                  1, 1},
+                 joined({event_sender::specs(),
+                         {{"protocolo", "N", "protocolo de autorização da nota"},
+                          {"justificativa", "TEXTO", "motivo do cancelamento"}}}))
 {
-    return "Registra o cancelamento da nota no autorizador. A nota vem pela chave, com o protocolo\n"
-           "de autorização em --protocolo, ou pelo seu nfeProc, que traz os dois. A justificativa\n"
-           "tem de 15 a 255 caracteres. Saída: 0 registrado (135, 151), 1 recusado, 2 uso inválido,\n"
-           "3 falha de transporte.";
-}
-
-std::vector<option_spec> cancelar_command::options() const
-{
-    std::vector<option_spec> all = event_sender::specs();
-    all.push_back({"protocolo", "N", "protocolo de autorização da nota"});
-    all.push_back({"justificativa", "TEXTO", "motivo do cancelamento"});
-    return all;
 }
 
 command_outcome cancelar_command::run(option_table const& options, tool_data& data)

@@ -11,20 +11,18 @@ namespace velk::tools::tarn {
 
 namespace requisicao = erp::tarn::nfe::sefaz_data::requisicao;
 
-char const* cce_command::description() const
-{
-    return "Registra uma carta de correção da NF-e no autorizador. A correção tem de 15 a 1000\n"
+cce_command::cce_command()
+    : subcommand(
+          {"cce", "registra uma carta de correção (evento 110110)", "CHAVE|NFEPROC.xml --correcao TEXTO [opções]",
+           "Registra uma carta de correção da NF-e no autorizador. A correção tem de 15 a 1000\n"
            "caracteres; cada nova carta da mesma nota leva o número seguinte em --sequencia\n"
            "(padrão 1) e substitui as anteriores. Saída: 0 registrada (135), 1 recusada,\n"
-           "2 uso inválido, 3 falha de transporte.";
-}
-
-std::vector<option_spec> cce_command::options() const
+           "2 uso inválido, 3 falha de transporte.",
+           1, 1},
+          joined({event_sender::specs(),
+                  {{"correcao", "TEXTO", "texto da correção"},
+                   {"sequencia", "N", "número da carta desta nota, de 1 a 20 (padrão 1)"}}}))
 {
-    std::vector<option_spec> all = event_sender::specs();
-    all.push_back({"correcao", "TEXTO", "texto da correção"});
-    all.push_back({"sequencia", "N", "número da carta desta nota, de 1 a 20 (padrão 1)"});
-    return all;
 }
 
 command_outcome cce_command::run(option_table const& options, tool_data& data)

@@ -8,17 +8,15 @@
 
 namespace velk::tools::tarn {
 
-char const* consultar_command::description() const
+consultar_command::consultar_command()
+    : subcommand({"consultar", "consulta a situação de uma nota pela chave de acesso", "CHAVE [opções]",
+                  "Consulta a nota no autorizador da UF e do modelo da chave: situação, protocolo de\n"
+                  "autorização e quantos eventos estão registrados. Saída: 0 nota autorizada (100, 150)\n"
+                  "ou cancelada (101, 151) ou denegada (110), 1 outra resposta (217: não consta),\n"
+                  "2 chave inválida, 3 falha de transporte.",
+                  1, 1},
+                 authority_connection::specs())
 {
-    return "Consulta a nota no autorizador da UF e do modelo da chave: situação, protocolo de\n"
-           "autorização e quantos eventos estão registrados. Saída: 0 nota autorizada (100, 150)\n"
-           "ou cancelada (101, 151) ou denegada (110), 1 outra resposta (217: não consta),\n"
-           "2 chave inválida, 3 falha de transporte.";
-}
-
-std::vector<option_spec> consultar_command::options() const
-{
-    return authority_connection::specs();
 }
 
 command_outcome consultar_command::run(option_table const& options, tool_data& data)
@@ -30,8 +28,8 @@ command_outcome consultar_command::run(option_table const& options, tool_data& d
     auto const request = erp::tarn::nfe::sefaz_data::requisicao::consulta::from_data(
         chave, erp::tarn::nfe::versao::versao_4_00, connection.ambiente());
     auto const answer = exchange(
-        service, request, connection.server(web_service::consulta_protocolo, chave.get_estado(), chave.get_modelo_chave()),
-        "consulta");
+        service, request,
+        connection.server(web_service::consulta_protocolo, chave.get_estado(), chave.get_modelo_chave()), "consulta");
 
     command_outcome outcome;
     outcome.report.set("chave", json_value::text(answer_fields::key_text(chave)));

@@ -75,7 +75,8 @@ command_outcome document_checker::check(std::filesystem::path const& file)
         throw_if_failed(stack, "leitura do XML");
     }
     std::unique_ptr<xmlDoc, void (*)(xmlDoc*)> const document(
-        xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr, XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
+        xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, nullptr,
+                      XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
         &xmlFreeDoc);
     xmlNode* const root = document ? xmlDocGetRootElement(document.get()) : nullptr;
     if (root == nullptr) {
@@ -205,10 +206,12 @@ void document_checker::check_key(xmlNode const* root, message_kind const& kind, 
     found.push_back(key_digit(key));
     std::string const from_fields = access_key::from_fields(inf_nfe);
     if (from_fields == key) {
-        found.push_back({"campos da chave", finding::result::ok, "UF, data, emitente, modelo, série, número, tipo de emissão, código e cDV conferem"});
+        found.push_back({"campos da chave", finding::result::ok,
+                         "UF, data, emitente, modelo, série, número, tipo de emissão, código e cDV conferem"});
     } else {
-        found.push_back({"campos da chave", finding::result::failed,
-                         "os campos de ide e emit formam " + (from_fields.empty() ? std::string("outra chave") : from_fields)});
+        found.push_back(
+            {"campos da chave", finding::result::failed,
+             "os campos de ide e emit formam " + (from_fields.empty() ? std::string("outra chave") : from_fields)});
     }
 }
 

@@ -9,27 +9,22 @@
 
 namespace velk::tools::tarn {
 
-char const* emitir_command::description() const
+emitir_command::emitir_command()
+    : subcommand({"emitir", "gera, assina e autoriza notas em JSON; grava o nfeProc", "NOTA.json... [opções]",
+                  "Cada nota (NotaFiscal em JSON) vira o documento do layout, recebe o QR code se for NFC-e,\n"
+                  "é assinada e enviada: a NFC-e num lote síncrono, a NF-e num lote assíncrono cujo recibo\n"
+                  "é consultado até a resposta. O nfeProc da nota autorizada é gravado ao lado do JSON\n"
+                  "(NOTA-nfeProc.xml); a nota recusada deixa ali o documento assinado (NOTA-assinado.xml).\n"
+                  "Várias notas: --jobs N emite N de cada vez, com uma barra de progresso no terminal e um\n"
+                  "resumo ao fim. Saída: 0 todas autorizadas, 1 alguma recusada, 2 entrada inválida,\n"
+                  "3 falha de transporte (o maior valor entre as notas).",
+                  1, any_number},
+                 joined({authority_connection::specs(),
+                         qrcode_options::specs(),
+                         {layout_option::spec(),
+                          {"saida", "PASTA", "grava os arquivos nesta pasta em vez de ao lado de cada nota"},
+                          {"jobs", "N", "notas emitidas ao mesmo tempo (padrão 1)"}}}))
 {
-    return "Cada nota (NotaFiscal em JSON) vira o documento do layout, recebe o QR code se for NFC-e,\n"
-           "é assinada e enviada: a NFC-e num lote síncrono, a NF-e num lote assíncrono cujo recibo\n"
-           "é consultado até a resposta. O nfeProc da nota autorizada é gravado ao lado do JSON\n"
-           "(NOTA-nfeProc.xml); a nota recusada deixa ali o documento assinado (NOTA-assinado.xml).\n"
-           "Várias notas: --jobs N emite N de cada vez, com uma barra de progresso no terminal e um\n"
-           "resumo ao fim. Saída: 0 todas autorizadas, 1 alguma recusada, 2 entrada inválida,\n"
-           "3 falha de transporte (o maior valor entre as notas).";
-}
-
-std::vector<option_spec> emitir_command::options() const
-{
-    std::vector<option_spec> all = authority_connection::specs();
-    for (option_spec const& spec : qrcode_options::specs()) {
-        all.push_back(spec);
-    }
-    all.push_back(layout_option::spec());
-    all.push_back({"saida", "PASTA", "grava os arquivos nesta pasta em vez de ao lado de cada nota"});
-    all.push_back({"jobs", "N", "notas emitidas ao mesmo tempo (padrão 1)"});
-    return all;
 }
 
 command_outcome emitir_command::run(option_table const& options, tool_data& data)

@@ -41,9 +41,8 @@ event_target event_target::read(std::string const& argument)
 
 std::vector<option_spec> event_sender::specs()
 {
-    std::vector<option_spec> all = authority_connection::specs();
-    all.push_back({"saida", "ARQUIVO", "grava o evento registrado (procEventoNFe) neste arquivo"});
-    return all;
+    return joined({authority_connection::specs(),
+                   {{"saida", "ARQUIVO", "grava o evento registrado (procEventoNFe) neste arquivo"}}});
 }
 
 command_outcome event_sender::send(nfe::sefaz_data::requisicao::evento evento, authority_connection const& connection,

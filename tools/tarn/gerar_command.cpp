@@ -5,19 +5,16 @@
 #include "layout_option.hpp"
 #include "note_builder.hpp"
 
-
 namespace velk::tools::tarn {
 
-char const* gerar_command::description() const
+gerar_command::gerar_command()
+    : subcommand({"gerar", "gera o documento (sem assinatura) de uma nota em JSON", "NOTA.json [opções]",
+                  "Lê a nota (NotaFiscal em JSON) e grava o documento NF-e ou NFC-e do layout, sem QR code\n"
+                  "nem assinatura, em NOTA.xml ao lado dela (ou em --saida). Os passos seguintes são\n"
+                  "`tarn qrcode` (NFC-e) e `tarn assinar`. Saída: 0 gravado, 2 nota inválida.",
+                  1, 1},
+                 {layout_option::spec(), {"saida", "ARQUIVO", "grava o documento neste arquivo"}})
 {
-    return "Lê a nota (NotaFiscal em JSON) e grava o documento NF-e ou NFC-e do layout, sem QR code\n"
-           "nem assinatura, em NOTA.xml ao lado dela (ou em --saida). Os passos seguintes são\n"
-           "`tarn qrcode` (NFC-e) e `tarn assinar`. Saída: 0 gravado, 2 nota inválida.";
-}
-
-std::vector<option_spec> gerar_command::options() const
-{
-    return {layout_option::spec(), {"saida", "ARQUIVO", "grava o documento neste arquivo"}};
 }
 
 command_outcome gerar_command::run(option_table const& options, tool_data&)

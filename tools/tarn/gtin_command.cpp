@@ -15,16 +15,14 @@ constexpr unsigned encontrado = 9490;
 
 }  // namespace
 
-char const* gtin_command::description() const
+gtin_command::gtin_command()
+    : subcommand({"gtin", "consulta um GTIN no cadastro centralizado", "CODIGO [opções]",
+                  "Consulta o produto do GTIN no cadastro centralizado, que atende a todas as UFs e\n"
+                  "só tem endereço de produção (a consulta não leva ambiente). Saída: 0 encontrado\n"
+                  "(9490), 1 outra resposta, 2 uso inválido, 3 falha de transporte.",
+                  1, 1},
+                 authority_connection::specs())
 {
-    return "Consulta o produto do GTIN no cadastro centralizado, que atende a todas as UFs e\n"
-           "só tem endereço de produção (a consulta não leva ambiente). Saída: 0 encontrado\n"
-           "(9490), 1 outra resposta, 2 uso inválido, 3 falha de transporte.";
-}
-
-std::vector<option_spec> gtin_command::options() const
-{
-    return authority_connection::specs();
 }
 
 command_outcome gtin_command::run(option_table const& options, tool_data& data)
@@ -32,7 +30,8 @@ command_outcome gtin_command::run(option_table const& options, tool_data& data)
     authority_connection const connection(options, data);
     erp::tarn::nfe::servico::consulta_gtin service;
     connection.configure(service);
-    auto const request = erp::tarn::nfe::sefaz_data::requisicao::consulta_gtin::from_data(options.positionals().front());
+    auto const request =
+        erp::tarn::nfe::sefaz_data::requisicao::consulta_gtin::from_data(options.positionals().front());
     auto const answer = exchange(service, request,
                                  connection.server(web_service::consulta_gtin, erp::estado::sp, erp::tarn::modelo::nfe),
                                  "consulta do GTIN");

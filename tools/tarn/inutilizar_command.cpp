@@ -35,40 +35,37 @@ unsigned this_year()
 
 }  // namespace
 
-char const* inutilizar_command::description() const
+inutilizar_command::inutilizar_command()
+    : subcommand({"inutilizar", "inutiliza uma faixa de números de uma série",
+                  "--uf UF --serie S --de N --ate M --justificativa TEXTO",
+                  "Pede ao autorizador da UF que inutilize os números de --de a --ate da série, no ano\n"
+                  "(dois dígitos, padrão o corrente) e para o CNPJ do emitente (padrão o do certificado).\n"
+                  "A justificativa tem de 15 a 255 caracteres. Com --saida grava o pedido assinado e a\n"
+                  "resposta (procInutNFe). Saída: 0 homologado (102), 1 recusado, 2 uso inválido,\n"
+                  "3 falha de transporte.",
+                  0, 0},
+                 joined({authority_connection::specs(),
+                         {model_option::spec(),
+                          {"serie", "S", "série dos números"},
+                          {"de", "N", "primeiro número da faixa"},
+                          {"ate", "M", "último número da faixa"},
+                          {"justificativa", "TEXTO", "motivo da inutilização"},
+                          {"ano", "AA", "ano da inutilização, dois dígitos (padrão o corrente)"},
+                          {"cnpj", "CNPJ", "CNPJ do emitente (padrão o do certificado)"},
+                          {"saida", "ARQUIVO", "grava o pedido com a resposta (procInutNFe) neste arquivo"}}}))
 {
-    return "Pede ao autorizador da UF que inutilize os números de --de a --ate da série, no ano\n"
-           "(dois dígitos, padrão o corrente) e para o CNPJ do emitente (padrão o do certificado).\n"
-           "A justificativa tem de 15 a 255 caracteres. Com --saida grava o pedido assinado e a\n"
-           "resposta (procInutNFe). Saída: 0 homologado (102), 1 recusado, 2 uso inválido,\n"
-           "3 falha de transporte.";
-}
-
-std::vector<option_spec> inutilizar_command::options() const
-{
-    std::vector<option_spec> all = authority_connection::specs();
-    for (option_spec const& spec : std::initializer_list<option_spec>{
-             model_option::spec(),
-             {"serie", "S", "série dos números"},
-             {"de", "N", "primeiro número da faixa"},
-             {"ate", "M", "último número da faixa"},
-             {"justificativa", "TEXTO", "motivo da inutilização"},
-             {"ano", "AA", "ano da inutilização, dois dígitos (padrão o corrente)"},
-             {"cnpj", "CNPJ", "CNPJ do emitente (padrão o do certificado)"},
-             {"saida", "ARQUIVO", "grava o pedido com a resposta (procInutNFe) neste arquivo"},
-         }) {
-        all.push_back(spec);
-    }
-    return all;
 }
 
 command_outcome inutilizar_command::run(option_table const& options, tool_data& data)
 {
     erp::estado const uf = option_values::required_uf(options);
     erp::tarn::modelo const modelo = model_option::read(options);
-    auto const serie = static_cast<unsigned>(option_values::number("--serie", option_values::required(options, "serie"), 0, 999));
-    auto const de = static_cast<unsigned>(option_values::number("--de", option_values::required(options, "de"), 1, 999999999));
-    auto const ate = static_cast<unsigned>(option_values::number("--ate", option_values::required(options, "ate"), de, 999999999));
+    auto const serie =
+        static_cast<unsigned>(option_values::number("--serie", option_values::required(options, "serie"), 0, 999));
+    auto const de =
+        static_cast<unsigned>(option_values::number("--de", option_values::required(options, "de"), 1, 999999999));
+    auto const ate =
+        static_cast<unsigned>(option_values::number("--ate", option_values::required(options, "ate"), de, 999999999));
     std::string const justificativa = option_values::required(options, "justificativa");
     auto const ano = static_cast<unsigned>(
         option_values::number("--ano", options.value("ano").value_or(std::to_string(this_year())), 0, 99));
@@ -85,8 +82,8 @@ command_outcome inutilizar_command::run(option_table const& options, tool_data& 
     throw_if_failed(stack, "assinatura da inutilização");
     nfe::servico::inutilizacao service;
     connection.configure(service);
-    auto const answer = exchange(service, request, connection.server(web_service::inutilizacao, uf, modelo),
-                                 "inutilização");
+    auto const answer =
+        exchange(service, request, connection.server(web_service::inutilizacao, uf, modelo), "inutilização");
 
     command_outcome outcome;
     answer_fields::set_status(outcome.report, answer.get_codigo_status(), answer.get_motivo());

@@ -11,8 +11,7 @@ namespace velk::tools::tarn {
 
 namespace requisicao = erp::tarn::nfe::sefaz_data::requisicao;
 
-requisicao::documento_fiscal note_builder::build(std::filesystem::path const& json_file,
-                                                 erp::tarn::nfe::versao layout)
+requisicao::documento_fiscal note_builder::build(std::filesystem::path const& json_file, erp::tarn::nfe::versao layout)
 {
     std::string const text = read_file(json_file);
     core::result::stack stack;

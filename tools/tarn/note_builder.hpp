@@ -15,7 +15,7 @@ public:
     // Throws command_error: an unreadable file, JSON that is no note, a note
     // the layout cannot carry.
     static erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal build(std::filesystem::path const& json_file,
-                                                                           erp::tarn::nfe::versao layout);
+                                                                          erp::tarn::nfe::versao layout);
 };
 
 }  // namespace velk::tools::tarn

@@ -123,10 +123,9 @@ resposta::lote_autorizacao note_issuer::authorize(requisicao::documento_fiscal c
     core::result::stack stack;
     lote.append_documento_fiscal(documento, stack);
     throw_if_failed(stack, "lote");
-    resposta::lote_autorizacao answer =
-        exchange(autorizacao_, lote,
-                 connection_.server(web_service::autorizacao, documento.get_estado(), documento.get_modelo()),
-                 "autorização");
+    resposta::lote_autorizacao answer = exchange(
+        autorizacao_, lote,
+        connection_.server(web_service::autorizacao, documento.get_estado(), documento.get_modelo()), "autorização");
     if (synchronous || !answer.get_numero_recibo()) {
         return answer;
     }
@@ -138,9 +137,9 @@ resposta::lote_autorizacao note_issuer::wait_for_receipt(requisicao::documento_f
                                                          unsigned long long receipt) const
 {
     auto const pedido = requisicao::consulta_recibo::from_data(documento.get_ambiente(), documento.get_versao(),
-                                                               receipt, documento.get_estado(),
-                                                               documento.get_modelo());
-    auto const server = connection_.server(web_service::ret_autorizacao, documento.get_estado(), documento.get_modelo());
+                                                               receipt, documento.get_estado(), documento.get_modelo());
+    auto const server =
+        connection_.server(web_service::ret_autorizacao, documento.get_estado(), documento.get_modelo());
     for (int const wait : receipt_waits_ms) {
         std::this_thread::sleep_for(std::chrono::milliseconds(wait));
         resposta::lote_autorizacao answer = exchange(recibo_, pedido, server, "consulta do recibo");
@@ -148,10 +147,10 @@ resposta::lote_autorizacao note_issuer::wait_for_receipt(requisicao::documento_f
             return answer;
         }
     }
-    throw command_error(exit_status::transport,
-                        failure_report::describe("consulta do recibo",
-                                                 "o lote do recibo " + std::to_string(receipt) +
-                                                     " segue em processamento: consulte depois com tarn recibo"));
+    throw command_error(
+        exit_status::transport,
+        failure_report::describe("consulta do recibo", "o lote do recibo " + std::to_string(receipt) +
+                                                           " segue em processamento: consulte depois com tarn recibo"));
 }
 
 std::filesystem::path note_issuer::beside(std::filesystem::path const& json_file, char const* suffix) const

@@ -4,6 +4,15 @@
 
 namespace velk::tools::tarn {
 
+std::vector<option_spec> joined(std::initializer_list<std::vector<option_spec>> groups)
+{
+    std::vector<option_spec> all;
+    for (std::vector<option_spec> const& group : groups) {
+        all.insert(all.end(), group.begin(), group.end());
+    }
+    return all;
+}
+
 option_table::option_table(std::vector<option_spec> specs) : specs_(std::move(specs)) {}
 
 option_spec const* option_table::find(std::string_view name) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string>
@@ -15,6 +16,9 @@ struct option_spec {
     std::string_view value;
     std::string_view help;
 };
+
+// The tables of several groups of options, in order.
+std::vector<option_spec> joined(std::initializer_list<std::vector<option_spec>> groups);
 
 // The words of a command line read against a table of options: "--name
 // value", "--name=value" or "--name" for a flag; "--" ends the options; any

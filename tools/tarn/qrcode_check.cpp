@@ -106,16 +106,16 @@ finding qrcode_check::run(xmlNode const* nfe, std::optional<std::string> const& 
     xml::document document;
     document.load(core::byte_array(without_qrcode(nfe)), stack);
     std::string const expected =
-        stack.has_failed() ? std::string()
-                           : nfe::obter_url_qrcode(nfe::informacoes_adicionais(parts->version, std::nullopt, parts->page),
-                                                   document, parts->token, *csc, stack);
+        stack.has_failed()
+            ? std::string()
+            : nfe::obter_url_qrcode(nfe::informacoes_adicionais(parts->version, std::nullopt, parts->page), document,
+                                    parts->token, *csc, stack);
     if (stack.has_failed()) {
         return {"qrcode", finding::result::failed,
                 std::string("o QR code não pôde ser refeito: ") + stack.top().get_message()};
     }
     if (expected != qrcode) {
-        return {"qrcode", finding::result::failed,
-                "o hash não confere com o CSC (token " + parts->token + ")"};
+        return {"qrcode", finding::result::failed, "o hash não confere com o CSC (token " + parts->token + ")"};
     }
     result.detail = std::string("hash confere com o CSC (versão ") +
                     (parts->version == nfe::versao_qrcode::versao_200 ? "2.00" : "1.00") + ", token " + parts->token +

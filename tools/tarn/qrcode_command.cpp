@@ -8,28 +8,25 @@
 
 namespace velk::tools::tarn {
 
-char const* qrcode_command::description() const
-{
-    return "Calcula o endereço do QR code da NFC-e (versão 2.00 ou 1.00) com o CSC e o seu\n"
+qrcode_command::qrcode_command()
+    : subcommand(
+          {"qrcode", "calcula o QR code de uma NFC-e (e o grava no documento)", "DOC.xml --token ID [opções]",
+           "Calcula o endereço do QR code da NFC-e (versão 2.00 ou 1.00) com o CSC e o seu\n"
            "identificador, e o imprime. Com --saida grava o documento com infNFeSupl (qrCode e\n"
            "urlChave), pronto para `tarn assinar`. Um documento que já tem QR code o mantém.\n"
            "O CSC vem de --csc-arquivo ou da variável TARN_CSC, nunca da linha de comando.\n"
-           "Saída: 0 feito, 2 documento, CSC ou token inválido.";
-}
-
-std::vector<option_spec> qrcode_command::options() const
+           "Saída: 0 feito, 2 documento, CSC ou token inválido.",
+           1, 1},
+          joined({qrcode_options::specs(), {{"saida", "ARQUIVO", "grava o documento com o QR code neste arquivo"}}}))
 {
-    std::vector<option_spec> all = qrcode_options::specs();
-    all.push_back({"saida", "ARQUIVO", "grava o documento com o QR code neste arquivo"});
-    return all;
 }
 
 command_outcome qrcode_command::run(option_table const& options, tool_data& data)
 {
     qrcode_options const qrcode(options, false);
     core::result::stack stack;
-    auto documento =
-        erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal::from_xml(read_xml(options.positionals().front()), stack);
+    auto documento = erp::tarn::nfe::sefaz_data::requisicao::documento_fiscal::from_xml(
+        read_xml(options.positionals().front()), stack);
     throw_if_failed(stack, "leitura do documento");
     if (documento.get_modelo() != erp::tarn::modelo::nfce) {
         throw command_error::usage("QR code", "o documento não é uma NFC-e (modelo 65)");

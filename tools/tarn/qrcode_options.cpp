@@ -27,9 +27,12 @@ std::vector<option_spec> qrcode_options::specs()
 
 qrcode_options::qrcode_options(option_table const& options, bool simulator)
     : version_(option_values::choose<nfe::versao_qrcode>(
-          options, "versao-qrcode", {{"2.00", nfe::versao_qrcode::versao_200}, {"1.00", nfe::versao_qrcode::versao_100}},
+          options, "versao-qrcode",
+          {{"2.00", nfe::versao_qrcode::versao_200}, {"1.00", nfe::versao_qrcode::versao_100}},
           nfe::versao_qrcode::versao_200)),
-      page_(options.value("url-qrcode")), url_chave_(options.value("url-chave")), simulator_(simulator)
+      page_(options.value("url-qrcode")),
+      url_chave_(options.value("url-chave")),
+      simulator_(simulator)
 {
     std::string error;
     csc_ = csc_source.read(options, error);
@@ -63,8 +66,8 @@ std::string const& qrcode_options::csc() const
     return *csc_;
 }
 
-nfe::informacoes_adicionais qrcode_options::information(
-    nfe::sefaz_data::requisicao::documento_fiscal const& documento, tool_data& data) const
+nfe::informacoes_adicionais qrcode_options::information(nfe::sefaz_data::requisicao::documento_fiscal const& documento,
+                                                        tool_data& data) const
 {
     std::string page;
     if (page_) {

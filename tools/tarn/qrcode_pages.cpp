@@ -19,8 +19,7 @@ std::string qrcode_pages::page(erp::estado uf, erp::tarn::ambiente ambiente, erp
     }
     if (found.empty()) {
         error = "não há página de consulta do QR code para " + sigla + " em " +
-                (ambiente == erp::tarn::ambiente::producao ? "produção" : "homologação") +
-                " (informe --url-qrcode)";
+                (ambiente == erp::tarn::ambiente::producao ? "produção" : "homologação") + " (informe --url-qrcode)";
     }
     return found;
 }

@@ -12,18 +12,14 @@
 
 namespace velk::tools::tarn {
 
-char const* recibo_command::description() const
+recibo_command::recibo_command()
+    : subcommand({"recibo", "consulta o resultado de um lote pelo número do recibo", "NREC --uf UF [opções]",
+                  "Pergunta ao autorizador o resultado do lote do recibo: o protocolo de cada nota.\n"
+                  "Saída: 0 lote processado (104) com todas as notas autorizadas, 1 lote em processamento\n"
+                  "(105), recusado ou com nota recusada, 2 uso inválido, 3 falha de transporte.",
+                  1, 1},
+                 joined({authority_connection::specs(), {model_option::spec()}}))
 {
-    return "Pergunta ao autorizador o resultado do lote do recibo: o protocolo de cada nota.\n"
-           "Saída: 0 lote processado (104) com todas as notas autorizadas, 1 lote em processamento\n"
-           "(105), recusado ou com nota recusada, 2 uso inválido, 3 falha de transporte.";
-}
-
-std::vector<option_spec> recibo_command::options() const
-{
-    std::vector<option_spec> all = authority_connection::specs();
-    all.push_back(model_option::spec());
-    return all;
 }
 
 command_outcome recibo_command::run(option_table const& options, tool_data& data)
@@ -46,12 +42,14 @@ command_outcome recibo_command::run(option_table const& options, tool_data& data
     outcome.status = answer_fields::of_group(erp::tarn::nfe::obter_grupo_status_resposta(answer));
     json_value protocols = json_value::array();
     for (auto const& protocol : answer.get_protocolos()) {
-        json_value item = json_value::object().set("chave", json_value::text(answer_fields::key_text(protocol.get_chave_acesso())));
+        json_value item =
+            json_value::object().set("chave", json_value::text(answer_fields::key_text(protocol.get_chave_acesso())));
         answer_fields::set_status(item, protocol.get_codigo_status(), protocol.get_motivo());
         if (auto const number = protocol.get_numero_protocolo()) {
             item.set("protocolo", json_value::text(std::to_string(*number)));
         }
-        outcome.status = worst(outcome.status, answer_fields::of_group(erp::tarn::nfe::obter_grupo_status_resposta(protocol)));
+        outcome.status =
+            worst(outcome.status, answer_fields::of_group(erp::tarn::nfe::obter_grupo_status_resposta(protocol)));
         protocols.push(std::move(item));
     }
     outcome.report.set("protocolos", std::move(protocols));

@@ -10,18 +10,16 @@
 
 namespace velk::tools::tarn {
 
-char const* simulador_command::description() const
+simulador_command::simulador_command()
+    : subcommand({"simulador", "mantém o simulador incluso em execução para outras chamadas", "--pasta PASTA",
+                  "Inicia o simulador da SEFAZ incluso numa porta livre do loopback, com certificados\n"
+                  "descartáveis gravados na pasta (ca.pem, cliente.pfx e senha, endereco), e o mantém até\n"
+                  "receber SIGINT ou SIGTERM (Ctrl-C). Outras chamadas o usam com --sim-pasta PASTA; ele\n"
+                  "lembra as notas que autorizou, e assim aceita eventos e consultas delas. Valida cada\n"
+                  "mensagem nos esquemas oficiais e responde como um autorizador de homologação.",
+                  0, 0},
+                 {{"pasta", "PASTA", "pasta dos certificados e do endereço (criada se preciso)"}})
 {
-    return "Inicia o simulador da SEFAZ incluso numa porta livre do loopback, com certificados\n"
-           "descartáveis gravados na pasta (ca.pem, cliente.pfx e senha, endereco), e o mantém até\n"
-           "receber SIGINT ou SIGTERM (Ctrl-C). Outras chamadas o usam com --sim-pasta PASTA; ele\n"
-           "lembra as notas que autorizou, e assim aceita eventos e consultas delas. Valida cada\n"
-           "mensagem nos esquemas oficiais e responde como um autorizador de homologação.";
-}
-
-std::vector<option_spec> simulador_command::options() const
-{
-    return {{"pasta", "PASTA", "pasta dos certificados e do endereço (criada se preciso)"}};
 }
 
 command_outcome simulador_command::run(option_table const& options, tool_data& data)

@@ -8,11 +8,7 @@ namespace velk::tools::tarn {
 // runs of tarn (--sim-pasta DIR), until interrupted.
 class simulador_command : public subcommand {
 public:
-    char const* name() const override { return "simulador"; }
-    char const* summary() const override { return "mantém o simulador incluso em execução para outras chamadas"; }
-    char const* arguments() const override { return "--pasta PASTA"; }
-    char const* description() const override;
-    std::vector<option_spec> options() const override;
+    simulador_command();
     command_outcome run(option_table const& options, tool_data& data) override;
 };
 

@@ -17,18 +17,14 @@ constexpr int em_operacao = 107;
 
 }  // namespace
 
-char const* status_command::description() const
+status_command::status_command()
+    : subcommand({"status", "consulta o status do serviço do autorizador", "--uf UF [opções]",
+                  "Pergunta ao autorizador da UF (do modelo dado) se o serviço está em operação.\n"
+                  "Saída: 0 em operação (107), 1 outra resposta (paralisado: 108, 109), 2 uso inválido,\n"
+                  "3 falha de transporte.",
+                  0, 0},
+                 joined({authority_connection::specs(), {model_option::spec()}}))
 {
-    return "Pergunta ao autorizador da UF (do modelo dado) se o serviço está em operação.\n"
-           "Saída: 0 em operação (107), 1 outra resposta (paralisado: 108, 109), 2 uso inválido,\n"
-           "3 falha de transporte.";
-}
-
-std::vector<option_spec> status_command::options() const
-{
-    std::vector<option_spec> all = authority_connection::specs();
-    all.push_back(model_option::spec());
-    return all;
 }
 
 command_outcome status_command::run(option_table const& options, tool_data& data)

@@ -22,23 +22,30 @@ struct command_outcome {
     bool printed = false;
 };
 
-// One subcommand of tarn. Its options are a table; --help and --json are
-// every subcommand's and need not be listed.
+// What a subcommand is to the help and to the reading of its command line.
+struct subcommand_info {
+    char const* name;
+    char const* summary;      // one line for the list of subcommands
+    char const* arguments;    // what follows the name in the usage line: "CHAVE [opções]"
+    char const* description;  // the paragraphs of --help after the usage line
+    std::size_t minimum_arguments = 0;
+    std::size_t maximum_arguments = 0;
+};
+
+// As many positional arguments as are given.
+inline constexpr std::size_t any_number = static_cast<std::size_t>(-1);
+
+// One subcommand of tarn: its description and its table of options as data,
+// and what it does. --help and --json are every subcommand's and need not be
+// listed.
 class subcommand {
 public:
+    subcommand(subcommand_info info, std::vector<option_spec> options) : info_(info), options_(std::move(options)) {}
     virtual ~subcommand() = default;
 
-    virtual char const* name() const = 0;
-    // One line for the list of subcommands.
-    virtual char const* summary() const = 0;
-    // What follows the name in the usage line: "CHAVE [opções]".
-    virtual char const* arguments() const = 0;
-    // Paragraphs of --help after the usage line.
-    virtual char const* description() const = 0;
-    virtual std::vector<option_spec> options() const = 0;
-    // How many positional arguments it takes.
-    virtual std::size_t minimum_arguments() const { return 0; }
-    virtual std::size_t maximum_arguments() const { return 0; }
+    subcommand_info const& info() const { return info_; }
+    char const* name() const { return info_.name; }
+    std::vector<option_spec> const& options() const { return options_; }
 
     // Throws command_error when the run cannot go on.
     virtual command_outcome run(option_table const& options, tool_data& data) = 0;
@@ -46,6 +53,10 @@ public:
     // The text form of the report; by default each member on a line of its
     // own, "name: value", nested parts indented.
     virtual void print_text(json_value const& report, std::FILE* out) const;
+
+private:
+    subcommand_info info_;
+    std::vector<option_spec> options_;
 };
 
 // Prints a report as --json asks: JSON, or the subcommand's text form.

@@ -63,31 +63,35 @@ tarn_program::tarn_program(std::vector<std::unique_ptr<subcommand>> commands) : 
 
 subcommand* tarn_program::find(std::string const& name) const
 {
-    auto const found = std::find_if(commands_.begin(), commands_.end(),
-                                    [&](std::unique_ptr<subcommand> const& command) { return name == command->name(); });
+    auto const found =
+        std::find_if(commands_.begin(), commands_.end(),
+                     [&](std::unique_ptr<subcommand> const& command) { return name == command->name(); });
     return found == commands_.end() ? nullptr : found->get();
 }
 
 std::string tarn_program::general_help() const
 {
-    std::string text = "uso: tarn SUBCOMANDO [argumentos] [opções]\n\n"
-                       "Emite, consulta, cancela e confere NF-e e NFC-e com a biblioteca velk-erp-tarn " +
-                       std::string(erp::tarn::get_versao_biblioteca()) +
-                       ",\ncontra um autorizador real ou o simulador incluso (--sim).\n\nSubcomandos:\n";
+    std::string text =
+        "uso: tarn SUBCOMANDO [argumentos] [opções]\n\n"
+        "Emite, consulta, cancela e confere NF-e e NFC-e com a biblioteca velk-erp-tarn " +
+        std::string(erp::tarn::get_versao_biblioteca()) +
+        ",\ncontra um autorizador real ou o simulador incluso (--sim).\n\nSubcomandos:\n";
     for (auto const& command : commands_) {
         std::string const name = command->name();
-        text += "  " + name + std::string(12 - std::min<std::size_t>(name.size(), 11), ' ') + command->summary() + "\n";
+        text += "  " + name + std::string(12 - std::min<std::size_t>(name.size(), 11), ' ') + command->info().summary +
+                "\n";
     }
-    text += "\nSaída: 0 sucesso, 1 recusa do autorizador, 2 uso ou entrada inválidos, 3 falha de transporte.\n"
-            "Segredos (senha do certificado, CSC) só de arquivo ou variável de ambiente, nunca da\n"
-            "linha de comando. Ajuda de cada subcomando: tarn SUBCOMANDO --help.\n";
+    text +=
+        "\nSaída: 0 sucesso, 1 recusa do autorizador, 2 uso ou entrada inválidos, 3 falha de transporte.\n"
+        "Segredos (senha do certificado, CSC) só de arquivo ou variável de ambiente, nunca da\n"
+        "linha de comando. Ajuda de cada subcomando: tarn SUBCOMANDO --help.\n";
     return text;
 }
 
 std::string tarn_program::help_of(subcommand const& command, option_table const& options)
 {
-    return "uso: tarn " + std::string(command.name()) + " " + command.arguments() + "\n\n" + command.description() +
-           "\n\nOpções:\n" + options.help();
+    return "uso: tarn " + std::string(command.name()) + " " + command.info().arguments + "\n\n" +
+           command.info().description + "\n\nOpções:\n" + options.help();
 }
 
 int tarn_program::run(std::vector<std::string> const& words)
@@ -120,8 +124,8 @@ int tarn_program::run(std::vector<std::string> const& words)
         return static_cast<int>(exit_status::ok);
     }
     std::size_t const given = options.positionals().size();
-    if (given < command->minimum_arguments() || given > command->maximum_arguments()) {
-        return usage_error(command->name(), "argumentos: " + std::string(command->arguments()));
+    if (given < command->info().minimum_arguments || given > command->info().maximum_arguments) {
+        return usage_error(command->name(), "argumentos: " + std::string(command->info().arguments));
     }
 
     bool const json = options.has("json");

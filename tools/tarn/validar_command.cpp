@@ -19,7 +19,8 @@ void print_file(json_value const& report, std::FILE* out)
     std::fprintf(out, "%s\n", text("arquivo").c_str());
     if (json_value const* const failure = report.find("erro")) {
         json_value const* reason = failure->find("motivo");
-        if (json_value const* const reasons = failure->find("motivos"); reasons != nullptr && !reasons->items().empty()) {
+        if (json_value const* const reasons = failure->find("motivos");
+            reasons != nullptr && !reasons->items().empty()) {
             reason = reasons->items().front().find("mensagem");
         }
         std::fprintf(out, "  erro: %s\n", reason != nullptr ? reason->scalar().c_str() : "ilegível");
@@ -35,18 +36,16 @@ void print_file(json_value const& report, std::FILE* out)
 
 }  // namespace
 
-char const* validar_command::description() const
+validar_command::validar_command()
+    : subcommand({"validar", "confere esquema, assinatura, chave e QR code de documentos", "ARQUIVO.xml... [opções]",
+                  "Diz que mensagem é cada arquivo (NFe, nfeProc, enviNFe, evento, procEventoNFe, inutNFe,\n"
+                  "ProcInutNFe e as respostas) e confere, uma linha por achado: o esquema oficial instalado\n"
+                  "com o tarn, cada assinatura (resumo e valor, XML canônico e RSA-SHA1), o dígito\n"
+                  "verificador e os campos da chave de acesso, e, com o CSC, o hash do QR code da NFC-e.\n"
+                  "Saída: 0 tudo confere, 1 algum achado falhou, 2 arquivo ilegível ou desconhecido.",
+                  1, any_number},
+                 {{"csc-arquivo", "ARQUIVO", "arquivo com o CSC para conferir o QR code (ou a variável TARN_CSC)"}})
 {
-    return "Diz que mensagem é cada arquivo (NFe, nfeProc, enviNFe, evento, procEventoNFe, inutNFe,\n"
-           "ProcInutNFe e as respostas) e confere, uma linha por achado: o esquema oficial instalado\n"
-           "com o tarn, cada assinatura (resumo e valor, XML canônico e RSA-SHA1), o dígito\n"
-           "verificador e os campos da chave de acesso, e, com o CSC, o hash do QR code da NFC-e.\n"
-           "Saída: 0 tudo confere, 1 algum achado falhou, 2 arquivo ilegível ou desconhecido.";
-}
-
-std::vector<option_spec> validar_command::options() const
-{
-    return {{"csc-arquivo", "ARQUIVO", "arquivo com o CSC para conferir o QR code (ou a variável TARN_CSC)"}};
 }
 
 command_outcome validar_command::run(option_table const& options, tool_data& data)

@@ -60,9 +60,10 @@ TEST(option_table, refusals_name_the_option)
 
 TEST(option_table, help_aligns_the_options)
 {
-    EXPECT_EQ(fresh().help(), "  --uf UF  estado\n"
-                              "  --sim    simulador\n"
-                              "  --json   JSON\n");
+    EXPECT_EQ(fresh().help(),
+              "  --uf UF  estado\n"
+              "  --sim    simulador\n"
+              "  --json   JSON\n");
 }
 
 }  // namespace

@@ -11,8 +11,8 @@ tarn_authority::tarn_authority(std::filesystem::path const& folder)
     std::string const password = (folder / "senha").string();
     write_text(pfx, pki.client_pkcs12().to_string());
     write_text(password, pki.password());
-    options_ = {"--endpoint", simulator_.url("/"), "--ca", pki.ca_file().string(), "--pfx", pfx, "--senha-arquivo",
-                password};
+    options_ = {"--endpoint", simulator_.url("/"), "--ca",  pki.ca_file().string(), "--pfx",
+                pfx,          "--senha-arquivo",   password};
 }
 
 std::vector<std::string> tarn_authority::command(std::vector<std::string> words) const

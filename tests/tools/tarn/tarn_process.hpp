@@ -9,9 +9,9 @@ namespace velk::test {
 
 // What a run of the tarn of this build gave.
 struct tarn_run {
-    int status = -1;      // exit status; -1 when it did not exit normally
-    std::string output;   // standard output
-    std::string errors;   // standard error
+    int status = -1;     // exit status; -1 when it did not exit normally
+    std::string output;  // standard output
+    std::string errors;  // standard error
 
     // Output and errors, for failure messages.
     std::string both() const { return output + errors; }

@@ -63,34 +63,50 @@ TEST(tarn_program, each_subcommand_against_the_simulator)
 
     step const steps[] = {
         {"status", {"status", "--uf", "SP"}, 0, {"\"cStat\": 107"}},
-        {"NFC-e, synchronous", with({"emitir", nfce}, qr), 0,
-         {"\"cStat\": 100", "\"situacao\": \"autorizada\"", "\"qrcode\": \"https://www.homologacao.nfce.fazenda.sp.gov.br/",
-          "p=" + std::string(nfce_key) + "|2|2|1|", "nfce-sp-nfeProc.xml"}},
+        {"NFC-e, synchronous",
+         with({"emitir", nfce}, qr),
+         0,
+         {"\"cStat\": 100", "\"situacao\": \"autorizada\"",
+          "\"qrcode\": \"https://www.homologacao.nfce.fazenda.sp.gov.br/", "p=" + std::string(nfce_key) + "|2|2|1|",
+          "nfce-sp-nfeProc.xml"}},
         {"NF-e, through its receipt", {"emitir", nfe}, 0, {"\"recibo\": \"", "\"cStat\": 100", "nfe-sp-nfeProc.xml"}},
         {"the same NFC-e again", with({"emitir", nfce}, qr), 1, {"\"situacao\": \"recusada\"", "nfce-sp-assinado.xml"}},
         {"query of an authorized key", {"consultar", nfce_key}, 0, {"\"cStat\": 100", "\"protocolo\": \""}},
-        {"query of an unknown key", {"consultar", "35240912345678000195650010000000991102938490"}, 1,
+        {"query of an unknown key",
+         {"consultar", "35240912345678000195650010000000991102938490"},
+         1,
          {"\"cStat\": 217"}},
         {"receipt unknown", {"recibo", "351000000000999", "--uf", "SP"}, 1, {"\"cStat\": 106"}},
-        {"receipt of the NF-e", {"recibo", "351000000000001", "--uf", "SP"}, 0,
+        {"receipt of the NF-e",
+         {"recibo", "351000000000001", "--uf", "SP"},
+         0,
          {"\"cStat\": 104", std::string("\"chave\": \"") + nfe_key}},
-        {"cancellation from the nfeProc", {"cancelar", nfce_proc, "--justificativa", "Venda desfeita a pedido do cliente",
-                                           "--saida", (folder / "cancelamento.xml").string()},
-         0, {"\"cStat\": 135", "procEventoNFe"}},
+        {"cancellation from the nfeProc",
+         {"cancelar", nfce_proc, "--justificativa", "Venda desfeita a pedido do cliente", "--saida",
+          (folder / "cancelamento.xml").string()},
+         0,
+         {"\"cStat\": 135", "procEventoNFe"}},
         {"the cancelled NFC-e", {"consultar", nfce_key}, 0, {"\"cStat\": 101", "\"eventos\": 1"}},
-        {"cancellation of an unknown note", {"cancelar", "35240912345678000195650010000000991102938490", "--protocolo",
-                                             "135240000000001", "--justificativa", "Venda desfeita a pedido do cliente"},
-         1, {"\"cStat\": "}},
-        {"correction letter by key", {"cce", nfe_key, "--correcao", "Corrige o complemento do endereco do destinatario",
-                                      "--saida", (folder / "cce.xml").string()},
-         0, {"\"cStat\": 135"}},
-        {"disablement", {"inutilizar", "--uf", "SP", "--modelo", "65", "--serie", "1", "--de", "5", "--ate", "9",
-                         "--ano", "24", "--justificativa", "Numeros pulados por falha no caixa", "--saida",
-                         (folder / "inutilizacao.xml").string()},
-         0, {"\"cStat\": 102", "\"protocolo\": \""}},
-        {"the same range again", {"inutilizar", "--uf", "SP", "--modelo", "65", "--serie", "1", "--de", "7", "--ate",
-                                  "8", "--ano", "24", "--justificativa", "Numeros pulados por falha no caixa"},
-         1, {"\"cStat\": 563"}},
+        {"cancellation of an unknown note",
+         {"cancelar", "35240912345678000195650010000000991102938490", "--protocolo", "135240000000001",
+          "--justificativa", "Venda desfeita a pedido do cliente"},
+         1,
+         {"\"cStat\": "}},
+        {"correction letter by key",
+         {"cce", nfe_key, "--correcao", "Corrige o complemento do endereco do destinatario", "--saida",
+          (folder / "cce.xml").string()},
+         0,
+         {"\"cStat\": 135"}},
+        {"disablement",
+         {"inutilizar", "--uf", "SP", "--modelo", "65", "--serie", "1", "--de", "5", "--ate", "9", "--ano", "24",
+          "--justificativa", "Numeros pulados por falha no caixa", "--saida", (folder / "inutilizacao.xml").string()},
+         0,
+         {"\"cStat\": 102", "\"protocolo\": \""}},
+        {"the same range again",
+         {"inutilizar", "--uf", "SP", "--modelo", "65", "--serie", "1", "--de", "7", "--ate", "8", "--ano", "24",
+          "--justificativa", "Numeros pulados por falha no caixa"},
+         1,
+         {"\"cStat\": 563"}},
         {"GTIN of the catalogue", {"gtin", "7891234567895"}, 0, {"\"cStat\": 9490", "\"NCM\": \"85161000\""}},
         {"GTIN outside it", {"gtin", "7890000000007"}, 1, {"\"cStat\": 9494"}},
     };
@@ -104,8 +120,8 @@ TEST(tarn_program, each_subcommand_against_the_simulator)
         EXPECT_EQ(run.both().find(csc.front().second), std::string::npos) << "the CSC was printed";
     }
 
-    for (char const* written : {"nfce-sp-nfeProc.xml", "nfe-sp-nfeProc.xml", "nfce-sp-assinado.xml",
-                                "cancelamento.xml", "cce.xml", "inutilizacao.xml"}) {
+    for (char const* written : {"nfce-sp-nfeProc.xml", "nfe-sp-nfeProc.xml", "nfce-sp-assinado.xml", "cancelamento.xml",
+                                "cce.xml", "inutilizacao.xml"}) {
         std::filesystem::path const file = folder / written;
         ASSERT_TRUE(std::filesystem::exists(file)) << written;
         validar_findings const found = validar_findings::of(file, csc);
@@ -121,8 +137,14 @@ TEST(tarn_program, a_batch_in_parallel_with_its_summary)
     tarn_authority const sefaz(folder);
     // Five notes of their own numbers and keys, and the first one twice.
     std::string const note = read_text(tarn_note("nfce-sp.json"));
-    std::vector<std::string> words = {"emitir", "--jobs", "2", "--token", "1", "--url-chave",
-                                      "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta", "--json"};
+    std::vector<std::string> words = {"emitir",
+                                      "--jobs",
+                                      "2",
+                                      "--token",
+                                      "1",
+                                      "--url-chave",
+                                      "https://www.homologacao.nfce.fazenda.sp.gov.br/consulta",
+                                      "--json"};
     for (int number = 11; number <= 15; ++number) {
         std::string const key = nfce_key_of(number);
         std::string text = note;

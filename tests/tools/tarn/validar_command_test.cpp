@@ -83,13 +83,21 @@ TEST(validar_command, good_and_broken_documents)
     wrong_digit_key.back() = '3';
 
     broken_case const cases[] = {
-        {"good", [](document_maker const& m, std::string const& n) { return m.make("good", n); }, 0,
+        {"good",
+         [](document_maker const& m, std::string const& n) { return m.make("good", n); },
+         0,
          {{"esquema", "ok"}, {"assinatura", "ok"}, {"chave", "ok"}, {"campos da chave", "ok"}, {"qrcode", "ok"}},
          csc},
-        {"good, no CSC given", [](document_maker const& m, std::string const& n) { return m.make("good", n); }, 0,
-         {{"assinatura", "ok"}, {"qrcode", "não conferido"}}, nullptr},
-        {"good, another CSC", [](document_maker const& m, std::string const& n) { return m.make("good", n); }, 1,
-         {{"assinatura", "ok"}, {"qrcode", "FALHOU"}}, "OUTROCSC0123456789ABCDEF012345"},
+        {"good, no CSC given",
+         [](document_maker const& m, std::string const& n) { return m.make("good", n); },
+         0,
+         {{"assinatura", "ok"}, {"qrcode", "não conferido"}},
+         nullptr},
+        {"good, another CSC",
+         [](document_maker const& m, std::string const& n) { return m.make("good", n); },
+         1,
+         {{"assinatura", "ok"}, {"qrcode", "FALHOU"}},
+         "OUTROCSC0123456789ABCDEF012345"},
         {"a byte changed after signing",
          [](document_maker const& m, std::string const& n) {
              std::filesystem::path const file = m.make("changed", n);
@@ -98,19 +106,26 @@ TEST(validar_command, good_and_broken_documents)
              write_text(file, text);
              return file;
          },
-         1, {{"esquema", "ok"}, {"assinatura", "FALHOU"}, {"chave", "ok"}}, csc},
+         1,
+         {{"esquema", "ok"}, {"assinatura", "FALHOU"}, {"chave", "ok"}},
+         csc},
         {"a wrong check digit in the key",
          [&](document_maker const& m, std::string const& n) {
              std::string text = n;
              replace(text, key, wrong_digit_key);
              return m.make("digit", text);
          },
-         1, {{"esquema", "ok"}, {"assinatura", "ok"}, {"chave", "FALHOU"}}, csc},
+         1,
+         {{"esquema", "ok"}, {"assinatura", "ok"}, {"chave", "FALHOU"}},
+         csc},
         {"a schema error, signed",
          [](document_maker const& m, std::string const& n) {
-             return m.make("schema", n, [](std::string& text) { replace(text, "<CFOP>5102</CFOP>", "<CFOP>51O2</CFOP>"); });
+             return m.make("schema", n,
+                           [](std::string& text) { replace(text, "<CFOP>5102</CFOP>", "<CFOP>51O2</CFOP>"); });
          },
-         1, {{"esquema", "FALHOU"}, {"assinatura", "ok"}, {"chave", "ok"}}, csc},
+         1,
+         {{"esquema", "FALHOU"}, {"assinatura", "ok"}, {"chave", "ok"}},
+         csc},
     };
     for (broken_case const& each : cases) {
         SCOPED_TRACE(each.what);

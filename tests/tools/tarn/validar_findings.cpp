@@ -88,10 +88,9 @@ void expect_agreement(std::filesystem::path const& file)
     if (signature_result == "ok" || signature_result == "FALHOU") {
         std::string const text = read_text(file);
         xmlsec_result const xmlsec = xmlsec_verify(text, first_signed(text), "");
-        EXPECT_EQ(signature_result == "ok", xmlsec.success)
-            << "tarn validar and xmlsec1 --verify differ:\n"
-            << found.text << "\n"
-            << xmlsec.output;
+        EXPECT_EQ(signature_result == "ok", xmlsec.success) << "tarn validar and xmlsec1 --verify differ:\n"
+                                                            << found.text << "\n"
+                                                            << xmlsec.output;
     }
 }
 
