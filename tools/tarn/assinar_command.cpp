@@ -17,7 +17,7 @@ assinar_command::assinar_command()
                   "O certificado é o de --pfx, ou o de teste de --sim-pasta. Saída: 0 assinado,\n"
                   "2 documento ou certificado inválido.",
                   1, 1},
-                 joined({certificate_options::specs(),
+                 joined({certificate_options::option_rows(),
                          {{"sim-pasta", "PASTA", "assina com o certificado de teste de `tarn simulador --pasta PASTA`"},
                           {"saida", "ARQUIVO", "grava o documento assinado neste arquivo"}}}))
 {

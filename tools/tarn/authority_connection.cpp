@@ -27,7 +27,7 @@ std::string first_line(std::filesystem::path const& file)
 
 }  // namespace
 
-std::vector<option_spec> authority_connection::specs()
+std::vector<option_row> authority_connection::option_rows()
 {
     return joined({{
                        {"uf", "UF", "estado do autorizador (sigla, como SP)"},
@@ -38,7 +38,7 @@ std::vector<option_spec> authority_connection::specs()
                        {"ca", "ARQUIVO", "autoridades certificadoras aceitas do servidor (padrão: as do sistema)"},
                        {"tempo-limite", "SEGUNDOS", "limite de cada chamada (padrão 30)"},
                    },
-                   certificate_options::specs()});
+                   certificate_options::option_rows()});
 }
 
 authority_connection::authority_connection(option_table const& options, tool_data& data) : data_(data)

@@ -28,7 +28,7 @@ namespace velk::tools::tarn {
 // is the signing certificate unless --pfx gives one.
 class authority_connection {
 public:
-    static std::vector<option_spec> specs();
+    static std::vector<option_row> option_rows();
 
     // Throws command_error on bad options or a simulator that does not start.
     authority_connection(option_table const& options, tool_data& data);

@@ -21,7 +21,7 @@ cancelar_command::cancelar_command()
                   "tem de 15 a 255 caracteres. Saída: 0 registrado (135, 151), 1 recusado, 2 uso inválido,\n"
                   "3 falha de transporte.",
                   1, 1},
-                 joined({event_sender::specs(),
+                 joined({event_sender::option_rows(),
                          {{"protocolo", "N", "protocolo de autorização da nota"},
                           {"justificativa", "TEXTO", "motivo do cancelamento"}}}))
 {

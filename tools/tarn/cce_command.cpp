@@ -19,7 +19,7 @@ cce_command::cce_command()
            "(padrão 1) e substitui as anteriores. Saída: 0 registrada (135), 1 recusada,\n"
            "2 uso inválido, 3 falha de transporte.",
            1, 1},
-          joined({event_sender::specs(),
+          joined({event_sender::option_rows(),
                   {{"correcao", "TEXTO", "texto da correção"},
                    {"sequencia", "N", "número da carta desta nota, de 1 a 20 (padrão 1)"}}}))
 {

@@ -16,7 +16,7 @@ secret_source const password_source("senha-arquivo", "TARN_PFX_SENHA");
 
 }  // namespace
 
-std::vector<option_spec> certificate_options::specs()
+std::vector<option_row> certificate_options::option_rows()
 {
     return {
         {"pfx", "ARQUIVO", "certificado A1 do contribuinte (PKCS#12, .pfx)"},

@@ -16,7 +16,7 @@ namespace velk::tools::tarn {
 // command line.
 class certificate_options {
 public:
-    static std::vector<option_spec> specs();
+    static std::vector<option_row> option_rows();
 
     // The certificate of --pfx; nullopt without --pfx. Throws command_error
     // on an unreadable file, a missing or wrong password.

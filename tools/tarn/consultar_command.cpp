@@ -15,7 +15,7 @@ consultar_command::consultar_command()
                   "ou cancelada (101, 151) ou denegada (110), 1 outra resposta (217: não consta),\n"
                   "2 chave inválida, 3 falha de transporte.",
                   1, 1},
-                 authority_connection::specs())
+                 authority_connection::option_rows())
 {
 }
 

@@ -19,9 +19,9 @@ emitir_command::emitir_command()
                   "resumo ao fim. Saída: 0 todas autorizadas, 1 alguma recusada, 2 entrada inválida,\n"
                   "3 falha de transporte (o maior valor entre as notas).",
                   1, any_number},
-                 joined({authority_connection::specs(),
-                         qrcode_options::specs(),
-                         {layout_option::spec(),
+                 joined({authority_connection::option_rows(),
+                         qrcode_options::option_rows(),
+                         {layout_option::row(),
                           {"saida", "PASTA", "grava os arquivos nesta pasta em vez de ao lado de cada nota"},
                           {"jobs", "N", "notas emitidas ao mesmo tempo (padrão 1)"}}}))
 {

@@ -39,9 +39,9 @@ event_target event_target::read(std::string const& argument)
     return {documento.get_chave_acesso(), protocolo.get_numero_protocolo()};
 }
 
-std::vector<option_spec> event_sender::specs()
+std::vector<option_row> event_sender::option_rows()
 {
-    return joined({authority_connection::specs(),
+    return joined({authority_connection::option_rows(),
                    {{"saida", "ARQUIVO", "grava o evento registrado (procEventoNFe) neste arquivo"}}});
 }
 

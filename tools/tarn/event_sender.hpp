@@ -29,7 +29,7 @@ struct event_target {
 class event_sender {
 public:
     // The options every event takes besides its own.
-    static std::vector<option_spec> specs();
+    static std::vector<option_row> option_rows();
 
     // Throws command_error when the event cannot be made or sent.
     static command_outcome send(erp::tarn::nfe::sefaz_data::requisicao::evento evento,

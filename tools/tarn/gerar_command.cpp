@@ -13,7 +13,7 @@ gerar_command::gerar_command()
                   "nem assinatura, em NOTA.xml ao lado dela (ou em --saida). Os passos seguintes são\n"
                   "`tarn qrcode` (NFC-e) e `tarn assinar`. Saída: 0 gravado, 2 nota inválida.",
                   1, 1},
-                 {layout_option::spec(), {"saida", "ARQUIVO", "grava o documento neste arquivo"}})
+                 {layout_option::row(), {"saida", "ARQUIVO", "grava o documento neste arquivo"}})
 {
 }
 

@@ -21,7 +21,7 @@ gtin_command::gtin_command()
                   "só tem endereço de produção (a consulta não leva ambiente). Saída: 0 encontrado\n"
                   "(9490), 1 outra resposta, 2 uso inválido, 3 falha de transporte.",
                   1, 1},
-                 authority_connection::specs())
+                 authority_connection::option_rows())
 {
 }
 

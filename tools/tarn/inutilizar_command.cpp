@@ -44,8 +44,8 @@ inutilizar_command::inutilizar_command()
                   "resposta (procInutNFe). Saída: 0 homologado (102), 1 recusado, 2 uso inválido,\n"
                   "3 falha de transporte.",
                   0, 0},
-                 joined({authority_connection::specs(),
-                         {model_option::spec(),
+                 joined({authority_connection::option_rows(),
+                         {model_option::row(),
                           {"serie", "S", "série dos números"},
                           {"de", "N", "primeiro número da faixa"},
                           {"ate", "M", "último número da faixa"},

@@ -8,7 +8,7 @@ namespace velk::tools::tarn {
 
 // --modelo: NF-e (55) or NFC-e (65), which may have different authorizers.
 struct model_option {
-    static option_spec spec() { return {"modelo", "MODELO", "55 (NF-e, padrão) ou 65 (NFC-e)"}; }
+    static option_row row() { return {"modelo", "MODELO", "55 (NF-e, padrão) ou 65 (NFC-e)"}; }
     static erp::tarn::modelo read(option_table const& options);
 };
 

@@ -4,22 +4,22 @@
 
 namespace velk::tools::tarn {
 
-std::vector<option_spec> joined(std::initializer_list<std::vector<option_spec>> groups)
+std::vector<option_row> joined(std::initializer_list<std::vector<option_row>> groups)
 {
-    std::vector<option_spec> all;
-    for (std::vector<option_spec> const& group : groups) {
+    std::vector<option_row> all;
+    for (std::vector<option_row> const& group : groups) {
         all.insert(all.end(), group.begin(), group.end());
     }
     return all;
 }
 
-option_table::option_table(std::vector<option_spec> specs) : specs_(std::move(specs)) {}
+option_table::option_table(std::vector<option_row> rows) : rows_(std::move(rows)) {}
 
-option_spec const* option_table::find(std::string_view name) const
+option_row const* option_table::find(std::string_view name) const
 {
     auto const found =
-        std::find_if(specs_.begin(), specs_.end(), [&](option_spec const& spec) { return spec.name == name; });
-    return found == specs_.end() ? nullptr : &*found;
+        std::find_if(rows_.begin(), rows_.end(), [&](option_row const& row) { return row.name == name; });
+    return found == rows_.end() ? nullptr : &*found;
 }
 
 bool option_table::parse(std::vector<std::string> const& words, std::string& error)
@@ -37,12 +37,12 @@ bool option_table::parse(std::vector<std::string> const& words, std::string& err
         }
         std::size_t const equals = word.find('=');
         std::string const name = word.substr(2, equals == std::string::npos ? std::string::npos : equals - 2);
-        option_spec const* const spec = find(name);
-        if (spec == nullptr) {
+        option_row const* const row = find(name);
+        if (row == nullptr) {
             error = "opção desconhecida: --" + name;
             return false;
         }
-        if (spec->value.empty()) {
+        if (row->value.empty()) {
             if (equals != std::string::npos) {
                 error = "a opção --" + name + " não leva valor";
                 return false;
@@ -53,7 +53,7 @@ bool option_table::parse(std::vector<std::string> const& words, std::string& err
         } else if (i + 1 < words.size()) {
             given_[name].push_back(words[++i]);
         } else {
-            error = "falta o valor de --" + name + " " + std::string(spec->value);
+            error = "falta o valor de --" + name + " " + std::string(row->value);
             return false;
         }
     }
@@ -78,17 +78,17 @@ std::string option_table::help() const
 {
     std::vector<std::string> heads;
     std::size_t width = 0;
-    for (option_spec const& spec : specs_) {
-        std::string head = "  --" + std::string(spec.name);
-        if (!spec.value.empty()) {
-            head += " " + std::string(spec.value);
+    for (option_row const& row : rows_) {
+        std::string head = "  --" + std::string(row.name);
+        if (!row.value.empty()) {
+            head += " " + std::string(row.value);
         }
         width = std::max(width, head.size());
         heads.push_back(std::move(head));
     }
     std::string text;
-    for (std::size_t i = 0; i < specs_.size(); ++i) {
-        text += heads[i] + std::string(width + 2 - heads[i].size(), ' ') + std::string(specs_[i].help) + "\n";
+    for (std::size_t i = 0; i < rows_.size(); ++i) {
+        text += heads[i] + std::string(width + 2 - heads[i].size(), ' ') + std::string(rows_[i].help) + "\n";
     }
     return text;
 }

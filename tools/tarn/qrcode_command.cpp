@@ -17,7 +17,7 @@ qrcode_command::qrcode_command()
            "O CSC vem de --csc-arquivo ou da variável TARN_CSC, nunca da linha de comando.\n"
            "Saída: 0 feito, 2 documento, CSC ou token inválido.",
            1, 1},
-          joined({qrcode_options::specs(), {{"saida", "ARQUIVO", "grava o documento com o QR code neste arquivo"}}}))
+          joined({qrcode_options::option_rows(), {{"saida", "ARQUIVO", "grava o documento com o QR code neste arquivo"}}}))
 {
 }
 

@@ -14,7 +14,7 @@ secret_source const csc_source("csc-arquivo", "TARN_CSC");
 
 }  // namespace
 
-std::vector<option_spec> qrcode_options::specs()
+std::vector<option_row> qrcode_options::option_rows()
 {
     return {
         {"token", "ID", "identificador do CSC (idToken) do QR code da NFC-e"},

@@ -26,7 +26,7 @@ public:
     static constexpr char simulator_token[] = "000001";
     static constexpr char simulator_csc[] = "TARNSIMULADOR0000000000000000000";
 
-    static std::vector<option_spec> specs();
+    static std::vector<option_row> option_rows();
 
     // `simulator`: the run goes to a simulator, whose test CSC stands in for
     // a missing one. Throws command_error on bad options.

@@ -18,7 +18,7 @@ recibo_command::recibo_command()
                   "Saída: 0 lote processado (104) com todas as notas autorizadas, 1 lote em processamento\n"
                   "(105), recusado ou com nota recusada, 2 uso inválido, 3 falha de transporte.",
                   1, 1},
-                 joined({authority_connection::specs(), {model_option::spec()}}))
+                 joined({authority_connection::option_rows(), {model_option::row()}}))
 {
 }
 

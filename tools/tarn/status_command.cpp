@@ -23,7 +23,7 @@ status_command::status_command()
                   "Saída: 0 em operação (107), 1 outra resposta (paralisado: 108, 109), 2 uso inválido,\n"
                   "3 falha de transporte.",
                   0, 0},
-                 joined({authority_connection::specs(), {model_option::spec()}}))
+                 joined({authority_connection::option_rows(), {model_option::row()}}))
 {
 }
 

@@ -40,12 +40,12 @@ inline constexpr std::size_t any_number = static_cast<std::size_t>(-1);
 // listed.
 class subcommand {
 public:
-    subcommand(subcommand_info info, std::vector<option_spec> options) : info_(info), options_(std::move(options)) {}
+    subcommand(subcommand_info info, std::vector<option_row> options) : info_(info), options_(std::move(options)) {}
     virtual ~subcommand() = default;
 
     subcommand_info const& info() const { return info_; }
     char const* name() const { return info_.name; }
-    std::vector<option_spec> const& options() const { return options_; }
+    std::vector<option_row> const& options() const { return options_; }
 
     // Throws command_error when the run cannot go on.
     virtual command_outcome run(option_table const& options, tool_data& data) = 0;
@@ -56,7 +56,7 @@ public:
 
 private:
     subcommand_info info_;
-    std::vector<option_spec> options_;
+    std::vector<option_row> options_;
 };
 
 // Prints a report as --json asks: JSON, or the subcommand's text form.

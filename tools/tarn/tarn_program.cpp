@@ -26,7 +26,7 @@ namespace velk::tools::tarn {
 namespace {
 
 // What every subcommand takes besides its own options.
-std::vector<option_spec> const common_options = {
+std::vector<option_row> const common_options = {
     {"json", "", "imprime o resultado em JSON"},
     {"help", "", "mostra esta ajuda"},
 };
@@ -112,9 +112,9 @@ int tarn_program::run(std::vector<std::string> const& words)
     if (command == nullptr) {
         return usage_error("", "subcomando desconhecido: " + words.front());
     }
-    std::vector<option_spec> specs = command->options();
-    specs.insert(specs.end(), common_options.begin(), common_options.end());
-    option_table options(std::move(specs));
+    std::vector<option_row> rows = command->options();
+    rows.insert(rows.end(), common_options.begin(), common_options.end());
+    option_table options(std::move(rows));
     std::string error;
     if (!options.parse(std::vector<std::string>(words.begin() + 1, words.end()), error)) {
         return usage_error(command->name(), error);
