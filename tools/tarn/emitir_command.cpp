@@ -17,7 +17,8 @@ emitir_command::emitir_command()
                   "(NOTA-nfeProc.xml); a nota recusada deixa ali o documento assinado (NOTA-assinado.xml).\n"
                   "Várias notas: --jobs N emite N de cada vez, com uma barra de progresso no terminal e um\n"
                   "resumo ao fim. Saída: 0 todas autorizadas, 1 alguma recusada, 2 entrada inválida,\n"
-                  "3 falha de transporte (o maior valor entre as notas).",
+                  "3 falha de transporte (o maior valor entre as notas). Com --json, uma nota dá o seu\n"
+                  "relatório; várias, {\"notas\": [...], \"resumo\": {...}}.",
                   1, any_number},
                  joined({authority_connection::option_rows(),
                          qrcode_options::option_rows(),

@@ -155,11 +155,22 @@ TEST(tarn_program, a_batch_in_parallel_with_its_summary)
         words.push_back(file.string());
     }
     words.push_back(words.back());
-    tarn_run const run = run_tarn(sefaz.command(words), {{"TARN_CSC", "CSC0123456789ABCDEF0123456789AB"}});
-    EXPECT_EQ(run.status, 1) << "one note refused makes the batch's status" << run.both();
+    tarn_run const refused = run_tarn(sefaz.command(words), {{"TARN_CSC", "CSC0123456789ABCDEF0123456789AB"}});
+    EXPECT_EQ(refused.status, 1) << "one note refused makes the batch's status\n" << refused.both();
     for (char const* fragment : {"\"notas\": 6", "\"autorizadas\": 5", "\"recusadas\": 1", "\"falhas\": 0",
                                  "\"jobs\": 2", "\"notas_por_segundo\": ", "\"aquecido\": {"}) {
-        EXPECT_NE(run.output.find(fragment), std::string::npos) << fragment << " not in\n" << run.both();
+        EXPECT_NE(refused.output.find(fragment), std::string::npos) << fragment << " not in\n" << refused.both();
+    }
+
+    // A note that is no note weighs more than a refusal.
+    write_text(folder / "nota-ruim.json", "{\"modelo_emissao\": 65}");
+    words.resize(words.size() - 6);
+    words.push_back((folder / "nota-11.json").string());
+    words.push_back((folder / "nota-ruim.json").string());
+    tarn_run const bad = run_tarn(sefaz.command(words), {{"TARN_CSC", "CSC0123456789ABCDEF0123456789AB"}});
+    EXPECT_EQ(bad.status, 2) << bad.both();
+    for (char const* fragment : {"\"notas\": 2", "\"recusadas\": 1", "\"falhas\": 1", "tarn-nfe-nota-json"}) {
+        EXPECT_NE(bad.output.find(fragment), std::string::npos) << fragment << " not in\n" << bad.both();
     }
 }
 
