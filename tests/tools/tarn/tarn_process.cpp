@@ -3,10 +3,12 @@
 #include <support/files.hpp>
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 
@@ -31,18 +33,18 @@ int wait_for(pid_t child)
 {
     int status = 0;
     while (waitpid(child, &status, 0) < 0) {
+        if (errno != EINTR) {
+            return -1;
+        }
     }
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
 }
 
-}  // namespace
-
-tarn_run run_tarn(std::vector<std::string> const& arguments,
-                  std::vector<std::pair<std::string, std::string>> const& environment)
+// Starts tarn with its output and errors going to the two files.
+pid_t spawn(std::vector<std::string> const& arguments,
+            std::vector<std::pair<std::string, std::string>> const& environment, std::string const& out,
+            std::string const& err)
 {
-    std::filesystem::path const folder = fresh_folder();
-    std::string const out = (folder / "stdout").string();
-    std::string const err = (folder / "stderr").string();
     std::vector<std::string> words = {tarn_program().string()};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> argv;
@@ -74,12 +76,45 @@ tarn_run run_tarn(std::vector<std::string> const& arguments,
         execve(argv[0], argv.data(), envp.data());
         _exit(127);
     }
+    return child;
+}
+
+}  // namespace
+
+tarn_run run_tarn(std::vector<std::string> const& arguments,
+                  std::vector<std::pair<std::string, std::string>> const& environment)
+{
+    std::filesystem::path const folder = fresh_folder();
+    std::string const out = (folder / "stdout").string();
+    std::string const err = (folder / "stderr").string();
+    pid_t const child = spawn(arguments, environment, out, err);
     tarn_run result;
     result.status = child < 0 ? -1 : wait_for(child);
     result.output = read_text(out);
     result.errors = read_text(err);
     std::filesystem::remove_all(folder);
     return result;
+}
+
+tarn_in_background::tarn_in_background(std::vector<std::string> const& arguments)
+    : pid_(spawn(arguments, {}, "/dev/null", "/dev/null"))
+{
+}
+
+tarn_in_background::~tarn_in_background()
+{
+    stop();
+}
+
+int tarn_in_background::stop()
+{
+    if (pid_ <= 0) {
+        return -1;
+    }
+    kill(pid_, SIGTERM);
+    int const status = wait_for(pid_);
+    pid_ = -1;
+    return status;
 }
 
 bool xmllint_accepts(std::filesystem::path const& xsd, std::filesystem::path const& file)

@@ -10,7 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <filesystem>
+#include <thread>
 
 namespace {
 
@@ -129,6 +131,30 @@ TEST(tarn_program, each_subcommand_against_the_simulator)
         expect_agreement(file);
     }
     EXPECT_EQ(validar_findings::of(nfce_proc, csc).result("qrcode"), "ok");
+}
+
+TEST(tarn_program, the_bundled_simulator_for_one_run_and_kept_up)
+{
+    tarn_run const once = run_tarn({"status", "--uf", "SP", "--sim", "--json"});
+    EXPECT_EQ(once.status, 0) << once.both();
+    EXPECT_NE(once.output.find("\"cStat\": 107"), std::string::npos) << once.both();
+
+    // Kept up by `tarn simulador`, it remembers across runs what it authorized.
+    std::filesystem::path const folder = scratch_dir("tarn-simulador");
+    std::string const kept = (folder / "simulador").string();
+    tarn_in_background simulator({"simulador", "--pasta", kept});
+    for (int wait = 0; wait < 100 && !std::filesystem::exists(folder / "simulador" / "endereco"); ++wait) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(100));
+    }
+    std::filesystem::copy_file(tarn_note("nfce-sp.json"), folder / "nfce-sp.json");
+    tarn_run const issued = run_tarn({"emitir", (folder / "nfce-sp.json").string(), "--sim-pasta", kept});
+    EXPECT_EQ(issued.status, 0) << issued.both();
+    tarn_run const queried = run_tarn({"consultar", nfce_key, "--sim-pasta", kept, "--json"});
+    EXPECT_EQ(queried.status, 0) << queried.both();
+    EXPECT_NE(queried.output.find("\"cStat\": 100"), std::string::npos) << queried.both();
+    EXPECT_EQ(simulator.stop(), 0);
+    tarn_run const gone = run_tarn({"status", "--uf", "SP", "--sim-pasta", kept});
+    EXPECT_EQ(gone.status, 3) << "nobody answers at the folder's address once it stopped\n" << gone.both();
 }
 
 TEST(tarn_program, a_batch_in_parallel_with_its_summary)
