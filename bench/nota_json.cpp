@@ -1,9 +1,9 @@
 // The whole road of a point of sale that speaks JSON: the note's text read,
 // its document generated, the QR code made and the document signed, against
 // one RSA-2048 signature alone. The aim is a road of at most 1.3 times the
-// signature. The parts below show where it stands: protobuf's reading of the
-// JSON text alone costs about one signature, most of it in its own parser and
-// in the types it rebuilds for every text it reads.
+// signature. The parts below show where it stands: the JSON text is read by
+// our one-pass reader in about an eighth of a signature (protobuf's own reader
+// took about one); the rest is the generation, the QR code and the signing.
 #include "throwaway_certificate.hpp"
 
 #include <velk/erp/tarn/nfe/protobuf/generate_document.hpp>

@@ -1,9 +1,12 @@
 #include <velk/erp/tarn/nfe/protobuf/nota_json.hpp>
 
 #include <velk/core/result/report.hpp>
+#include <velk/erp/tarn/nfe/protobuf/detail/leitor_json.hpp>
 #include <velk/erp/tarn/nfe/protobuf/nota_json_result_category.hpp>
 
 #include <google/protobuf/util/json_util.h>
+
+#include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::protobuf {
 
@@ -16,11 +19,13 @@ bool ler_nota_json(std::string_view texto, ::velk::internal::nfe::serialization:
             stack, static_cast<unsigned long long>(texto.size()));
         return false;
     }
-    auto const status = google::protobuf::util::JsonStringToMessage(
-        google::protobuf::StringPiece(texto.data(), texto.size()), &nota, google::protobuf::util::JsonParseOptions());
-    if (!status.ok()) {
+    // The index of the note's field names is made once, on first use, and
+    // only read afterwards: no lock on the way of a note.
+    static detail::leitor_json const leitor(*::velk::internal::nfe::serialization::NotaFiscal::descriptor());
+    std::string motivo;
+    if (!leitor.ler(texto, nota, motivo)) {
         nota.Clear();
-        core::result::chain<nota_json_result_category::json_invalido>(stack, std::string(status.message()));
+        core::result::chain<nota_json_result_category::json_invalido>(stack, std::move(motivo));
         return false;
     }
     return true;

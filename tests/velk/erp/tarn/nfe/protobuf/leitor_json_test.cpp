@@ -1,0 +1,237 @@
+// Our reader of a note's JSON against protobuf's own: for every text, the
+// same message (byte for byte once serialized) or a refusal by both. The
+// texts: every note of the corpus, a table of the corners of the mapping and
+// of protobuf's leniencies, and the corpus notes damaged at random.
+
+#include "notas_json_teste.hpp"
+
+#include <velk/erp/tarn/nfe/protobuf/nota_json_result_category.hpp>
+
+#include <google/protobuf/util/json_util.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace {
+
+using velk::core::result::stack;
+using velk::erp::tarn::nfe::protobuf::ler_nota_json;
+using velk::test::NotaFiscal;
+
+// Empty when both agree; otherwise what each gave.
+std::string diferenca(std::string const& texto)
+{
+    NotaFiscal oraculo;
+    bool const aceito = google::protobuf::util::JsonStringToMessage(texto, &oraculo).ok();
+    NotaFiscal nosso;
+    stack report;
+    bool const lido = ler_nota_json(texto, nosso, report);
+    if (aceito == lido && (!lido || oraculo.SerializeAsString() == nosso.SerializeAsString())) {
+        if (!lido) {
+            auto const& topo = report.top();
+            if (!(topo.get_category() == velk::erp::tarn::nfe::protobuf::nota_json_result_category::instance()) ||
+                topo.get_value() != 1 || topo.get_arguments().empty() || topo.get_arguments()[0].second.empty()) {
+                return "refused without code 1 and a reason: " + report.to_string();
+            }
+        }
+        return std::string();
+    }
+    return "protobuf: " + (aceito ? oraculo.ShortDebugString() : std::string("refused")) +
+           "\nours: " + (lido ? nosso.ShortDebugString() : report.to_string());
+}
+
+std::string produto(std::string const& dentro)
+{
+    return R"({"produtos": [{)" + dentro + "}]}";
+}
+
+std::string endereco(std::string const& dentro)
+{
+    return R"({"emitente": {"endereco": {)" + dentro + "}}}";
+}
+
+// Each line: a text both readers must agree on (accepting or refusing).
+std::vector<std::string> const cantos = {
+    // Forms of a uint32.
+    R"({"numero": 5})", R"({"numero": "5"})", R"({"numero": "+5"})", R"({"numero": "05"})", R"({"numero": 05})",
+    R"({"numero": 5.0})", R"({"numero": 5e0})", R"({"numero": 0.5e1})", R"({"numero": 1.})", R"({"numero": "5.0"})",
+    R"({"numero": "5e0"})", R"({"numero": -0})", R"({"numero": "-0"})", R"({"numero": -0.0})", R"({"numero": 01.5})",
+    R"({"numero": " 5"})", R"({"numero": "5 "})", R"({"numero": ""})", R"({"numero": "+"})", R"({"numero": true})",
+    R"({"numero": [5]})", R"({"numero": []})", R"({"numero": {}})", R"({"numero": 4294967295})",
+    R"({"numero": 4294967296})", R"({"numero": "4294967296"})", R"({"numero": 4294967295.0})", R"({"numero": -1})",
+    R"({"numero": -1.0})", R"({"numero": 1e-1})", R"({"numero": 0e5})", R"({"numero": 00.0})", R"({"numero": 1E+0})",
+    R"({"numero": 1.0e})", R"({"numero": 1..0})", R"({"numero": 1e5e5})", R"({"numero": -})", R"({"numero": --1})",
+    R"({"numero": 1-})", R"({"numero": +1})", R"({"numero": .5})", R"({"numero": 0x10})", R"({"numero": Infinity})",
+    R"({"numero": 123456789012345678901234567890})", R"({"numero": 123456789012345678901234567890e-20})",
+    R"({"numero": -9223372036854775809})", R"({"numero": -9223372036854775808})", R"({"numero": "\u0035"})",
+    // An int32.
+    R"({"data_emissao": {"offset": -180}})", R"({"data_emissao": {"offset": "-180"}})",
+    R"({"data_emissao": {"offset": -2147483648}})", R"({"data_emissao": {"offset": -2147483649}})",
+    R"({"data_emissao": {"offset": 2147483647}})", R"({"data_emissao": {"offset": 2147483648}})",
+    R"({"data_emissao": {"offset": -2.147483648e9}})", R"({"data_emissao": {"offset": "-2147483649"}})",
+    R"({"data_emissao": {"offset": 1e400}})", R"({"data_emissao": {"offset": -1e-400}})",
+    R"({"data_emissao": {"offset": 1e-400}})", R"({"data_emissao": {"offset": 1.25e1}})",
+    R"({"data_emissao": {"offset": -.5}})", R"({"data_emissao": {"offset": -5.}})",
+    R"({"data_emissao": {"offset": -05}})", R"({"data_emissao": {"offset": "NaN"}})",
+    R"({"data_emissao": {"offset": "--1"}})",
+    // A uint64: the whole range, exactly, and a double only when whole.
+    produto(R"("valor_total_bruto": {"numero": "18446744073709551615"})"),
+    produto(R"("valor_total_bruto": {"numero": 18446744073709551615})"),
+    produto(R"("valor_total_bruto": {"numero": 18446744073709551616})"),
+    produto(R"("valor_total_bruto": {"numero": "18446744073709551616"})"),
+    produto(R"("valor_total_bruto": {"numero": 1e19})"),
+    produto(R"("valor_total_bruto": {"numero": 1.8446744073709552e19})"),
+    produto(R"("valor_total_bruto": {"numero": 1.8446744073709550e19})"),
+    produto(R"("valor_total_bruto": {"numero": 9007199254740993})"),
+    produto(R"("valor_total_bruto": {"numero": 9007199254740993.0})"),
+    produto(R"("valor_total_bruto": {"numero": "1e3"})"), produto(R"("valor_total_bruto": {"numero": -1})"),
+    produto(R"("valor_total_bruto": {"numero": "-1"})"),
+    // Enumerations by name and by number, declared or not.
+    R"({"tipo_operacao": 1})", R"({"tipo_operacao": "1"})", R"({"tipo_operacao": "+1"})", R"({"tipo_operacao": 99})",
+    R"({"tipo_operacao": "99"})", R"({"tipo_operacao": 1.0})", R"({"tipo_operacao": 1.5})",
+    R"({"tipo_operacao": -1})", R"({"tipo_operacao": 2147483648})", R"({"tipo_operacao": -2147483648})",
+    R"({"tipo_operacao": "Saida"})", R"({"tipo_operacao": "saida"})", R"({"tipo_operacao": "Saida "})",
+    R"({"tipo_operacao": ""})", R"({"tipo_operacao": true})", R"({"tipo_operacao": {}})",
+    R"({"tipo_operacao": "1.0"})",
+    // Strings and their escapes.
+    R"({"serie": 5})", R"({"serie": true})", R"({"serie": "a\u0000b"})", R"({"serie": "\ud83d\ude00"})",
+    R"({"serie": "\uD83D\uDE00x"})", R"({"serie": "\ud83d"})", R"({"serie": "\ude00"})", R"({"serie": "\uD83Dx"})",
+    R"({"serie": "\uD83D\u0041"})", R"({"serie": "\uD83D\uD83D"})", R"({"serie": "\ud83d\u00"})",
+    R"({"serie": "\ud83d\n"})", R"({"serie": "\ud800\udc00"})", R"({"serie": "\udbff\udfff"})",
+    R"({"serie": "\uFFFF\uFFFE"})", R"({"serie": "\u12"})", R"({"serie": "\u12G4"})", R"({"serie": "\u"})",
+    R"({"serie": "\v\'\"\\\/\b\f\n\r\t"})", R"({"serie": "\x\0\U0041\ \é"})", "{\"serie\": \"tab\traw\\\tx\"}",
+    "{\"serie\": \"a\rb\x01\"}", R"({"serie": 'a"b'})", R"({"serie": 'a\'b'})", R"({"serie": "a'b"})",
+    R"({"serie": "\"})", R"({"serie": "abc)", R"({"serie": "abc")", R"({"serie": tru})", R"({"serie": nulls})",
+    R"({"serie": "\u00e9\/"})",
+    // UTF-8 as it comes: well formed, overlong, surrogates, beyond U+10FFFF,
+    // cut short, a lone continuation byte; in a value, a key, an enumeration.
+    "{\"serie\": \"a\xC3\xA9\"}", "{\"serie\": \"a\xC0\x80\"}", "{\"serie\": \"a\xED\xA0\x80\"}",
+    "{\"serie\": \"a\xF4\x90\x80\x80\"}", "{\"serie\": \"a\xF4\x8F\xBF\xBF\"}", "{\"serie\": \"a\xE2\x82\"}",
+    "{\"serie\": \"a\x80\"}", "{\"serie\": \"a\xFF\"}", "{\"serie\": \"\xE0\x80\x80\"}",
+    "{\"serie\": \"\xF0\x80\x80\x80\"}", "{\"serie\": \"\xEE\x80\x80\xEF\xBB\xBF\"}", "{\"serie\": \"\\\xFF\"}",
+    "{\"ser\xFFie\": \"a\"}", "{\"tipo_operacao\": \"Saida\xFF\"}", "{\"emitente\": {\"cnpj\": \"\xFF\"}}",
+    "\xEF\xBB\xBF{}",
+    // Nulls: nothing set, nothing cleared.
+    R"({"numero": null})", R"({"numero": 5, "numero": null})", R"({"serie": null})", R"({"tipo_operacao": null})",
+    R"({"emitente": null})", R"({"emitente": {"cnpj": "1"}, "emitente": null})", R"({"produtos": null})",
+    R"({"produtos": [null]})", R"({"produtos": [{}, null]})", endereco(R"("cep": null)"),
+    // Wrappers: the bare value, or an object of one "value".
+    R"({"emitente": {"cnpj": "1"}})", R"({"emitente": {"cnpj": ""}})", R"({"emitente": {"cnpj": {"value": "1"}}})",
+    R"({"emitente": {"cnpj": {"value": ""}}})", R"({"emitente": {"cnpj": {"value": null}}})",
+    R"({"emitente": {"cnpj": {}}})", R"({"emitente": {"cnpj": {"value": "1", "value": "2"}}})",
+    R"({"emitente": {"cnpj": {"valor": "1"}}})", R"({"emitente": {"cnpj": ["1"]}})", R"({"emitente": {"cnpj": 5}})",
+    R"({"emitente": {"cnpj": "1", "cnpj": {}}})", R"({"emitente": {"cnpj": {"value": "1"}, "cnpj": null}})",
+    R"({"emitente": {"cnpj": "1"}, "emitente": {"cnpj": ""}})", endereco(R"("cep": 5)"), endereco(R"("cep": "07")"),
+    endereco(R"("cep": 0)"), endereco(R"("cep": -5)"), endereco(R"("cep": 1e3)"), endereco(R"("cep": 5.5)"),
+    endereco(R"("cep": true)"), endereco(R"("cep": {"value": "7"})"),
+    // Messages and repeated fields: merged, appended, flattened.
+    R"({"emitente": {}})", R"({"emitente": []})", R"({"emitente": 5})", R"({"emitente": "x"})",
+    R"({"emitente": {"cnpj": "1"}, "emitente": {"razao_social": "x"}})", R"({"produtos": {}})",
+    R"({"produtos": {"ncm": 3}})", R"({"produtos": []})", R"({"produtos": [[]]})", R"({"produtos": [[{}]]})",
+    R"({"produtos": [{}, [{}]]})", R"({"produtos": [[{"ncm": 1}], [{"ncm": 2}]]})",
+    R"({"produtos": [{"ncm": 1}], "produtos": [{"ncm": 2}]})", R"({"produtos": [{"ncm": 1}, 5]})",
+    R"({"produtos": ["x"]})", R"({"produtos": [true]})", R"({"produtos": 5})", R"({"produtos": [{},]})",
+    R"({"produtos": [[],]})", R"({"produtos": [[,]]})", R"({"produtos": [,{}]})", R"({"produtos": [{},,]})",
+    R"({"produtos": [ , ]})", R"({"produtos": [{}}})", R"({"produtos": [{]})", R"({"produtos": [})",
+    R"({"produtos": [[[{}],]]})", R"({"produtos": [{}] "x"})",
+    // Oneofs: one member per object, null taking none.
+    R"({"indicador_intermediador": 0})", R"({"indicador_intermediador": 0, "indicador_intermediador": 1})",
+    R"({"indicador_intermediador": null, "indicador_intermediador": 1})",
+    R"({"indicador_intermediador": 1, "indicador_intermediador": null})",
+    produto(R"("grupo_icms_00": {}, "grupo_icms_10": {})"), produto(R"("grupo_icms_00": {}, "grupoIcms00": {})"),
+    produto(R"("grupo_icms_00": null, "grupo_icms_10": {})"),
+    R"({"produtos": [{"grupo_icms_00": {}}, {"grupo_icms_10": {}}]})",
+    // Keys: either name, escaped, quoted either way, bare, duplicated.
+    R"({"codigoNf": 5})", R"({"codigo_nf": 5, "codigoNf": 6})", R"({"CodigoNf": 5})", R"({"n\u0075mero": 5})",
+    R"({"": 5})", R"({'numero': 5})", R"({numero: 5})", R"({numero :1, serie:"a"})", R"({true: 1})",
+    R"({nullx: 1})", R"({$x: 1})", R"({1numero: 1})", R"({"numero" 5})", R"({:1})", R"({"serie"})",
+    R"({"serie":})", R"({"serie": "a": "b"})", R"({"numero": 5 "serie": "a"})", R"({"numero": 5, "numero": 7})",
+    R"({"numero": 1, "numero": "x"})", R"({"numero_da_nota": 12})",
+    // The text around the note.
+    "", " ", "{", "{}", " {} ", "{ }", "null", "[]", "[1, 2]", "5", "\"x\"", "{}x", "{} {}", "{}}", R"({"numero": 1]})",
+    "{\"numero\": 1}\v\f\r\n\t ", "\v{\"numero\": 1}", std::string("{\"numero\": 1}\0", 14), "{\r\"numero\"\t:\n1 , }",
+    R"({"numero": 5,})", R"({,})", R"({"numero": 5,,})", R"({"numero": 1} //)", R"({"numero": truex})",
+};
+
+class leitor_json_diferencial : public testing::TestWithParam<std::string> {};
+
+TEST_P(leitor_json_diferencial, gives_what_protobuf_gives)
+{
+    EXPECT_EQ(diferenca(GetParam()), "") << GetParam();
+}
+
+INSTANTIATE_TEST_SUITE_P(cantos, leitor_json_diferencial, testing::ValuesIn(cantos));
+
+std::vector<std::string> notas_do_corpus()
+{
+    std::vector<std::string> textos;
+    for (auto const& entrada : std::filesystem::directory_iterator(velk::test::pasta_notas_json())) {
+        textos.push_back(velk::test::read_text(entrada.path()));
+    }
+    return textos;
+}
+
+TEST(leitor_json, every_note_of_the_corpus_reads_as_protobuf_reads_it)
+{
+    auto const textos = notas_do_corpus();
+    ASSERT_GE(textos.size(), 10u);
+    for (auto const& texto : textos) {
+        NotaFiscal nota;
+        stack report;
+        ASSERT_TRUE(ler_nota_json(texto, nota, report)) << report.to_string();
+        EXPECT_EQ(diferenca(texto), "") << texto.substr(0, 200);
+    }
+}
+
+// Nesting: arrays within a repeated field, at any depth, and objects nested
+// past any note.
+TEST(leitor_json, nesting_is_judged_as_protobuf_judges_it)
+{
+    for (int niveis : {1, 2, 99, 100, 101, 5000}) {
+        std::string const colchetes =
+            R"({"produtos":)" + std::string(niveis, '[') + "{}" + std::string(niveis, ']') + "}";
+        EXPECT_EQ(diferenca(colchetes), "") << niveis;
+        std::string objetos = R"({"produtos": [)";
+        for (int i = 0; i < niveis; ++i) {
+            objetos += R"({"tributos_devolvidos": )";
+        }
+        objetos += "{}" + std::string(niveis, '}') + "]}";
+        EXPECT_EQ(diferenca(objetos), "") << niveis;
+    }
+}
+
+// Each note of the corpus damaged where it hurts: a byte dropped, doubled or
+// replaced by one of JSON's punctuation, a quote or a digit, or a stretch of
+// it cut out. A fixed seed keeps the run the same every time.
+TEST(leitor_json, damaged_notes_are_judged_as_protobuf_judges_them)
+{
+    std::mt19937 sorte(20240917);
+    std::string const trocas = "{}[],:\"'\\0123456789-+.eE ntfu\x80\xC3";
+    int aceitos = 0;
+    int recusados = 0;
+    for (auto const& original : notas_do_corpus()) {
+        for (int vez = 0; vez < 300; ++vez) {
+            std::string texto = original;
+            std::uniform_int_distribution<std::size_t> posicao(0, texto.size() - 1);
+            std::size_t const onde = posicao(sorte);
+            switch (vez % 4) {
+            case 0: texto.erase(onde, 1); break;
+            case 1: texto.insert(onde, 1, texto[onde]); break;
+            case 2: texto[onde] = trocas[sorte() % trocas.size()]; break;
+            default: texto.erase(onde, 1 + sorte() % 40); break;
+            }
+            std::string const diferente = diferenca(texto);
+            ASSERT_EQ(diferente, "") << texto;
+            NotaFiscal nota;
+            (google::protobuf::util::JsonStringToMessage(texto, &nota).ok() ? aceitos : recusados) += 1;
+        }
+    }
+    // The damage must reach both sides of the line to prove anything.
+    EXPECT_GT(aceitos, 100);
+    EXPECT_GT(recusados, 100);
+}
+
+}  // namespace

@@ -1,0 +1,877 @@
+#include <velk/erp/tarn/nfe/protobuf/detail/leitor_json.hpp>
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <string>
+#include <utility>
+
+namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
+
+namespace {
+
+using google::protobuf::Descriptor;
+using google::protobuf::FieldDescriptor;
+using google::protobuf::Message;
+using google::protobuf::Reflection;
+
+constexpr std::array<std::string_view, 9> embrulhos = {
+    "google.protobuf.DoubleValue", "google.protobuf.FloatValue",  "google.protobuf.Int64Value",
+    "google.protobuf.UInt64Value", "google.protobuf.Int32Value",  "google.protobuf.UInt32Value",
+    "google.protobuf.BoolValue",   "google.protobuf.StringValue", "google.protobuf.BytesValue",
+};
+
+bool espaco(char c)
+{
+    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+}
+
+bool letra(char c)
+{
+    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '$';
+}
+
+bool digito(char c)
+{
+    return c >= '0' && c <= '9';
+}
+
+int hexa(char c)
+{
+    if (digito(c)) {
+        return c - '0';
+    }
+    if (c >= 'a' && c <= 'f') {
+        return c - 'a' + 10;
+    }
+    if (c >= 'A' && c <= 'F') {
+        return c - 'A' + 10;
+    }
+    return -1;
+}
+
+void utf8(std::string& saida, std::uint32_t ponto)
+{
+    if (ponto < 0x80) {
+        saida += static_cast<char>(ponto);
+    } else if (ponto < 0x800) {
+        saida += static_cast<char>(0xC0 | (ponto >> 6));
+        saida += static_cast<char>(0x80 | (ponto & 0x3F));
+    } else if (ponto < 0x10000) {
+        saida += static_cast<char>(0xE0 | (ponto >> 12));
+        saida += static_cast<char>(0x80 | ((ponto >> 6) & 0x3F));
+        saida += static_cast<char>(0x80 | (ponto & 0x3F));
+    } else {
+        saida += static_cast<char>(0xF0 | (ponto >> 18));
+        saida += static_cast<char>(0x80 | ((ponto >> 12) & 0x3F));
+        saida += static_cast<char>(0x80 | ((ponto >> 6) & 0x3F));
+        saida += static_cast<char>(0x80 | (ponto & 0x3F));
+    }
+}
+
+// The length of the well-formed UTF-8 sequence at `p`, or 0: no overlong
+// form, no surrogate, nothing beyond U+10FFFF.
+std::size_t sequencia_utf8(unsigned char const* p, unsigned char const* fim)
+{
+    unsigned char const c = p[0];
+    auto continua = [&](std::size_t i, unsigned char menor = 0x80, unsigned char maior = 0xBF) {
+        return p + i < fim && p[i] >= menor && p[i] <= maior;
+    };
+    if (c >= 0xC2 && c <= 0xDF) {
+        return continua(1) ? 2 : 0;
+    }
+    if (c >= 0xE0 && c <= 0xEF) {
+        unsigned char const menor = c == 0xE0 ? 0xA0 : 0x80;
+        unsigned char const maior = c == 0xED ? 0x9F : 0xBF;
+        return continua(1, menor, maior) && continua(2) ? 3 : 0;
+    }
+    if (c >= 0xF0 && c <= 0xF4) {
+        unsigned char const menor = c == 0xF0 ? 0x90 : 0x80;
+        unsigned char const maior = c == 0xF4 ? 0x8F : 0xBF;
+        return continua(1, menor, maior) && continua(2) && continua(3) ? 4 : 0;
+    }
+    return 0;
+}
+
+// A number as the text writes it: a whole number when it has neither
+// fraction nor exponent and fits 64 bits, a double otherwise.
+struct numero {
+    enum class forma { com_sinal, sem_sinal, real } tipo = forma::sem_sinal;
+    std::int64_t com_sinal = 0;
+    std::uint64_t sem_sinal = 0;
+    double real = 0;
+};
+
+// A decimal text in the form strtod reads, beyond the range of a double:
+// true if its magnitude is above 1 (an overflow), false if below (a value
+// that rounds to zero).
+bool excede_para_cima(std::string_view texto)
+{
+    bool achou = false;
+    // Digits before the point, leading zeros dropped; zeros after the point
+    // before the first significant digit.
+    std::size_t j = texto[0] == '-' ? 1 : 0;
+    long long inteiros = 0;
+    long long zeros_fracao = 0;
+    bool ponto = false;
+    for (; j < texto.size() && (digito(texto[j]) || texto[j] == '.'); ++j) {
+        if (texto[j] == '.') {
+            ponto = true;
+        } else if (!ponto) {
+            if (texto[j] != '0' || achou) {
+                achou = true;
+                ++inteiros;
+            }
+        } else if (!achou) {
+            if (texto[j] == '0') {
+                ++zeros_fracao;
+            } else {
+                achou = true;
+            }
+        }
+    }
+    long long const magnitude = inteiros > 0 ? inteiros - 1 : -(zeros_fracao + 1);
+    long long expoente = 0;
+    if (j < texto.size() && (texto[j] == 'e' || texto[j] == 'E')) {
+        ++j;
+        bool negativo = false;
+        if (j < texto.size() && (texto[j] == '+' || texto[j] == '-')) {
+            negativo = texto[j] == '-';
+            ++j;
+        }
+        for (; j < texto.size() && digito(texto[j]); ++j) {
+            if (expoente < 1'000'000'000) {
+                expoente = expoente * 10 + (texto[j] - '0');
+            }
+        }
+        if (negativo) {
+            expoente = -expoente;
+        }
+    }
+    return magnitude + expoente > 0;
+}
+
+class leitura {
+public:
+    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, std::string_view texto)
+        : tipos_(tipos), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
+    {
+    }
+
+    bool documento(Message& mensagem)
+    {
+        pular_espaco();
+        if (p_ == fim_ || *p_ != '{') {
+            return falha("the root element must be a JSON object");
+        }
+        if (!objeto(mensagem, 1)) {
+            return false;
+        }
+        pular_espaco();
+        if (p_ != fim_) {
+            return falha("text after the end of the note");
+        }
+        return true;
+    }
+
+    std::string& motivo() { return motivo_; }
+
+private:
+    bool falha(std::string texto)
+    {
+        if (motivo_.empty()) {
+            motivo_ = std::move(texto) + " (at byte " + std::to_string(p_ - inicio_) + ")";
+        }
+        return false;
+    }
+
+    bool falha_campo(FieldDescriptor const& campo, std::string_view texto)
+    {
+        return falha(std::string(campo.name()) + ": " + std::string(texto));
+    }
+
+    void pular_espaco()
+    {
+        while (p_ != fim_ && espaco(*p_)) {
+            ++p_;
+        }
+    }
+
+    bool literal(std::string_view palavra) const
+    {
+        return static_cast<std::size_t>(fim_ - p_) >= palavra.size() && std::string_view(p_, palavra.size()) == palavra;
+    }
+
+    // A string opened by " or ', its escapes undone; `saida` is used only
+    // when there is an escape, otherwise `vista` points into the text.
+    bool texto(std::string& saida, std::string_view& vista)
+    {
+        char const aspa = *p_++;
+        char const* const comeco = p_;
+        bool copiado = false;
+        saida.clear();
+        while (true) {
+            if (p_ == fim_) {
+                return falha("closing quote expected in string");
+            }
+            auto const c = static_cast<unsigned char>(*p_);
+            if (c == static_cast<unsigned char>(aspa)) {
+                if (!copiado) {
+                    vista = std::string_view(comeco, static_cast<std::size_t>(p_ - comeco));
+                } else {
+                    vista = saida;
+                }
+                ++p_;
+                return true;
+            }
+            if (c == '\\') {
+                if (!copiado) {
+                    saida.assign(comeco, p_);
+                    copiado = true;
+                }
+                if (!escape(saida)) {
+                    return false;
+                }
+                continue;
+            }
+            std::size_t tamanho = 1;
+            if (c >= 0x80) {
+                tamanho = sequencia_utf8(reinterpret_cast<unsigned char const*>(p_),
+                                         reinterpret_cast<unsigned char const*>(fim_));
+                if (tamanho == 0) {
+                    return falha("text that is not UTF-8");
+                }
+            }
+            if (copiado) {
+                saida.append(p_, tamanho);
+            }
+            p_ += tamanho;
+        }
+    }
+
+    bool quatro_hexa(char const* q, std::uint32_t& ponto) const
+    {
+        if (fim_ - q < 4) {
+            return false;
+        }
+        ponto = 0;
+        for (int i = 0; i < 4; ++i) {
+            int const h = hexa(q[i]);
+            if (h < 0) {
+                return false;
+            }
+            ponto = ponto * 16 + static_cast<std::uint32_t>(h);
+        }
+        return true;
+    }
+
+    bool escape(std::string& saida)
+    {
+        ++p_;
+        if (p_ == fim_) {
+            return falha("closing quote expected in string");
+        }
+        char const c = *p_;
+        switch (c) {
+        case 'b': saida += '\b'; break;
+        case 'f': saida += '\f'; break;
+        case 'n': saida += '\n'; break;
+        case 'r': saida += '\r'; break;
+        case 't': saida += '\t'; break;
+        case 'v': saida += '\v'; break;
+        case 'u': return unicode(saida);
+        default:
+            // Any other escaped character stands for itself; one of several
+            // bytes is left for the UTF-8 check of the loop.
+            if (static_cast<unsigned char>(c) < 0x80) {
+                saida += c;
+            } else {
+                return true;
+            }
+        }
+        ++p_;
+        return true;
+    }
+
+    bool unicode(std::string& saida)
+    {
+        std::uint32_t ponto = 0;
+        if (!quatro_hexa(p_ + 1, ponto)) {
+            return falha("invalid \\u escape");
+        }
+        p_ += 5;
+        if (ponto >= 0xD800 && ponto <= 0xDBFF) {
+            std::uint32_t baixo = 0;
+            if (fim_ - p_ < 6 || p_[0] != '\\' || p_[1] != 'u') {
+                return falha("missing low surrogate");
+            }
+            if (!quatro_hexa(p_ + 2, baixo)) {
+                return falha("invalid \\u escape");
+            }
+            if (baixo < 0xDC00 || baixo > 0xDFFF) {
+                return falha("invalid low surrogate");
+            }
+            ponto = (((ponto & 0x3FF) << 10) | (baixo & 0x3FF)) + 0x10000;
+            p_ += 6;
+        } else if (ponto >= 0xDC00 && ponto <= 0xDFFF) {
+            return falha("invalid unicode code point");
+        }
+        utf8(saida, ponto);
+        return true;
+    }
+
+    bool chave(std::string& saida, std::string_view& vista)
+    {
+        if (p_ != fim_ && (*p_ == '"' || *p_ == '\'')) {
+            return texto(saida, vista);
+        }
+        if (p_ == fim_ || !letra(*p_) || literal("true") || literal("false") || literal("null")) {
+            return falha("expected an object key or }");
+        }
+        char const* const comeco = p_;
+        while (p_ != fim_ && (letra(*p_) || digito(*p_))) {
+            ++p_;
+        }
+        vista = std::string_view(comeco, static_cast<std::size_t>(p_ - comeco));
+        return true;
+    }
+
+    bool objeto(Message& mensagem, int profundidade)
+    {
+        if (profundidade > leitor_json::profundidade_maxima) {
+            return falha("message too deep");
+        }
+        Descriptor const* const descritor = mensagem.GetDescriptor();
+        auto const achado = tipos_.find(descritor);
+        if (achado == tipos_.end() || achado->second.desconhecido) {
+            return falha(std::string("no JSON form known for ") + std::string(descritor->full_name()));
+        }
+        leitor_json::tipo const& tipo = achado->second;
+        ++p_;
+        std::uint64_t oneofs = 0;
+        std::string nome;
+        while (true) {
+            pular_espaco();
+            if (p_ != fim_ && *p_ == '}') {
+                ++p_;
+                return true;
+            }
+            std::string_view chave_lida;
+            if (!chave(nome, chave_lida)) {
+                return false;
+            }
+            pular_espaco();
+            if (p_ == fim_ || *p_ != ':') {
+                return falha("expected : between key and value");
+            }
+            ++p_;
+            pular_espaco();
+            auto const campo = tipo.campos.find(chave_lida);
+            if (campo == tipo.campos.end()) {
+                return falha(std::string(chave_lida) + ": cannot find field");
+            }
+            if (!valor_do_campo(mensagem, *campo->second, oneofs, profundidade)) {
+                return false;
+            }
+            pular_espaco();
+            if (p_ != fim_ && *p_ == ',') {
+                ++p_;
+            } else if (p_ == fim_ || *p_ != '}') {
+                return falha("expected , or } after key:value pair");
+            }
+        }
+    }
+
+    bool valor_do_campo(Message& mensagem, FieldDescriptor const& campo, std::uint64_t& oneofs, int profundidade)
+    {
+        if (p_ == fim_) {
+            return falha("expected a value");
+        }
+        if (literal("null")) {
+            p_ += 4;
+            return true;
+        }
+        if (*p_ == '[') {
+            if (!campo.is_repeated()) {
+                return falha_campo(campo, "field is not repeated, cannot start a list");
+            }
+            return lista(mensagem, campo, profundidade);
+        }
+        if (campo.is_repeated()) {
+            return elemento(mensagem, campo, profundidade);
+        }
+        if (auto const* const oneof = campo.containing_oneof(); oneof != nullptr) {
+            std::uint64_t const bit = std::uint64_t{1} << oneof->index();
+            if ((oneofs & bit) != 0) {
+                return falha_campo(campo, std::string("oneof '") + std::string(oneof->name()) + "' is already set");
+            }
+            oneofs |= bit;
+        }
+        if (campo.cpp_type() == FieldDescriptor::CPPTYPE_MESSAGE) {
+            return mensagem_do_valor(*mensagem.GetReflection()->MutableMessage(&mensagem, &campo), campo,
+                                     profundidade);
+        }
+        return escalar(mensagem, campo);
+    }
+
+    // A message's value: an object, or the bare value of a wrapper.
+    bool mensagem_do_valor(Message& filha, FieldDescriptor const& campo, int profundidade)
+    {
+        if (*p_ == '{') {
+            return objeto(filha, profundidade + 1);
+        }
+        auto const achado = tipos_.find(filha.GetDescriptor());
+        if (achado == tipos_.end() || !achado->second.embrulho) {
+            return falha_campo(campo, "a message is written as an object");
+        }
+        return escalar(filha, *filha.GetDescriptor()->field(0));
+    }
+
+    // One element of a repeated field.
+    bool elemento(Message& mensagem, FieldDescriptor const& campo, int profundidade)
+    {
+        if (campo.cpp_type() == FieldDescriptor::CPPTYPE_MESSAGE) {
+            if (*p_ != '{') {
+                auto const achado = tipos_.find(campo.message_type());
+                if (achado == tipos_.end() || !achado->second.embrulho) {
+                    return falha_campo(campo, "a message is written as an object");
+                }
+            }
+            return mensagem_do_valor(*mensagem.GetReflection()->AddMessage(&mensagem, &campo), campo, profundidade);
+        }
+        if (*p_ == '{') {
+            return falha_campo(campo, "starting an object on a scalar field");
+        }
+        return escalar(mensagem, campo);
+    }
+
+    // The values of a repeated field; arrays within it add their elements to
+    // the same field, at any depth, as protobuf's reader does.
+    bool lista(Message& mensagem, FieldDescriptor const& campo, int profundidade)
+    {
+        std::size_t abertas = 0;
+        bool depois_de_valor = false;
+        while (true) {
+            pular_espaco();
+            if (p_ == fim_) {
+                return falha("unexpected end of the text in an array");
+            }
+            char const c = *p_;
+            if (depois_de_valor) {
+                if (c == ',') {
+                    ++p_;
+                    depois_de_valor = false;
+                    continue;
+                }
+                if (c != ']') {
+                    return falha("expected , or ] after array value");
+                }
+            }
+            if (c == ']') {
+                ++p_;
+                --abertas;
+                depois_de_valor = true;
+                if (abertas == 0) {
+                    return true;
+                }
+                continue;
+            }
+            if (c == '[') {
+                ++p_;
+                ++abertas;
+                depois_de_valor = false;
+                continue;
+            }
+            if (c == ',') {
+                return falha("unexpected token");
+            }
+            if (literal("null")) {
+                p_ += 4;
+            } else if (!elemento(mensagem, campo, profundidade)) {
+                return false;
+            }
+            depois_de_valor = true;
+        }
+    }
+
+    bool ler_numero(numero& lido, std::string_view& vista)
+    {
+        char const* const comeco = p_;
+        bool real = false;
+        while (p_ != fim_ && (digito(*p_) || *p_ == '-' || *p_ == '+' || *p_ == '.' || *p_ == 'e' || *p_ == 'E')) {
+            real = real || *p_ == '.' || *p_ == 'e' || *p_ == 'E';
+            ++p_;
+        }
+        vista = std::string_view(comeco, static_cast<std::size_t>(p_ - comeco));
+        bool const negativo = vista[0] == '-';
+        if (!real) {
+            std::size_t const zero = negativo ? 1 : 0;
+            if (vista.size() >= zero + 2 && vista[zero] == '0') {
+                return falha("octal or hexadecimal numbers are not JSON");
+            }
+            char const* const fim = vista.data() + vista.size();
+            if (negativo) {
+                auto const [resto, erro] = std::from_chars(vista.data(), fim, lido.com_sinal);
+                if (erro == std::errc() && resto == fim) {
+                    lido.tipo = numero::forma::com_sinal;
+                    return true;
+                }
+            } else {
+                auto const [resto, erro] = std::from_chars(vista.data(), fim, lido.sem_sinal);
+                if (erro == std::errc() && resto == fim) {
+                    lido.tipo = numero::forma::sem_sinal;
+                    return true;
+                }
+            }
+        }
+        // strtod's grammar, without its leading '+' (the text cannot start
+        // with it) and with no word such as inf or nan (no letter is taken).
+        char const* const fim = vista.data() + vista.size();
+        auto const [resto, erro] = std::from_chars(vista.data(), fim, lido.real);
+        if (resto != fim || (erro != std::errc() && erro != std::errc::result_out_of_range)) {
+            return falha("unable to parse number");
+        }
+        if (erro == std::errc::result_out_of_range) {
+            if (excede_para_cima(vista)) {
+                return falha("number exceeds the range of double");
+            }
+            lido.real = negativo ? -0.0 : 0.0;
+        }
+        if (!std::isfinite(lido.real)) {
+            return falha("number exceeds the range of double");
+        }
+        lido.tipo = numero::forma::real;
+        return true;
+    }
+
+    // A whole number of type T from a number of the text: in range, and a
+    // double only when it is integral.
+    template <class T>
+    static bool inteiro(numero const& lido, T& valor)
+    {
+        using limites = std::numeric_limits<T>;
+        switch (lido.tipo) {
+        case numero::forma::com_sinal:
+            if constexpr (limites::is_signed) {
+                if (lido.com_sinal < limites::min() || lido.com_sinal > limites::max()) {
+                    return false;
+                }
+            } else if (lido.com_sinal < 0 || static_cast<std::uint64_t>(lido.com_sinal) > limites::max()) {
+                return false;
+            }
+            valor = static_cast<T>(lido.com_sinal);
+            return true;
+        case numero::forma::sem_sinal:
+            if (lido.sem_sinal > static_cast<std::uint64_t>(limites::max())) {
+                return false;
+            }
+            valor = static_cast<T>(lido.sem_sinal);
+            return true;
+        case numero::forma::real: {
+            double const d = lido.real;
+            // 2^63 and 2^64 are exact doubles: the bounds compare exactly.
+            double const acima = limites::is_signed ? -2.0 * static_cast<double>(limites::min())
+                                                    : 2.0 * (static_cast<double>(limites::max() / 2) + 1.0);
+            if (std::isnan(d) || d < static_cast<double>(limites::min()) || d >= acima || std::trunc(d) != d) {
+                return false;
+            }
+            valor = static_cast<T>(d);
+            return true;
+        }
+        }
+        return false;
+    }
+
+    // A whole number of type T from a quoted text: an optional sign and
+    // digits, nothing else (no space, fraction or exponent).
+    template <class T>
+    static bool inteiro(std::string_view texto, T& valor)
+    {
+        if (texto.empty()) {
+            return false;
+        }
+        bool negativo = false;
+        if (texto[0] == '+' || texto[0] == '-') {
+            negativo = texto[0] == '-';
+            texto.remove_prefix(1);
+            if (negativo && !std::numeric_limits<T>::is_signed) {
+                return false;
+            }
+        }
+        if (texto.empty()) {
+            return false;
+        }
+        for (char const c : texto) {
+            if (!digito(c)) {
+                return false;
+            }
+        }
+        std::uint64_t absoluto = 0;
+        auto const [resto, erro] = std::from_chars(texto.data(), texto.data() + texto.size(), absoluto);
+        if (erro != std::errc()) {
+            return false;
+        }
+        numero lido;
+        if (negativo) {
+            if (absoluto > std::uint64_t{1} << 63) {
+                return false;
+            }
+            lido.tipo = numero::forma::com_sinal;
+            lido.com_sinal = absoluto == std::uint64_t{1} << 63 ? std::numeric_limits<std::int64_t>::min()
+                                                                : -static_cast<std::int64_t>(absoluto);
+        } else {
+            lido.sem_sinal = absoluto;
+        }
+        return inteiro(lido, valor);
+    }
+
+    static bool real(std::string_view texto, double& valor)
+    {
+        if (texto == "NaN") {
+            valor = std::numeric_limits<double>::quiet_NaN();
+            return true;
+        }
+        if (texto == "Infinity" || texto == "-Infinity") {
+            valor = texto[0] == '-' ? -std::numeric_limits<double>::infinity() : std::numeric_limits<double>::infinity();
+            return true;
+        }
+        if (texto.empty() || texto[0] == ' ' || texto.back() == ' ') {
+            return false;
+        }
+        auto const [resto, erro] = std::from_chars(texto.data(), texto.data() + texto.size(), valor);
+        return erro == std::errc() && resto == texto.data() + texto.size();
+    }
+
+    static bool real(numero const& lido, double& valor)
+    {
+        switch (lido.tipo) {
+        case numero::forma::com_sinal: valor = static_cast<double>(lido.com_sinal); return true;
+        case numero::forma::sem_sinal: valor = static_cast<double>(lido.sem_sinal); return true;
+        case numero::forma::real: valor = lido.real; return true;
+        }
+        return false;
+    }
+
+    static bool base64(std::string_view texto, std::string& saida)
+    {
+        saida.clear();
+        std::uint32_t acumulado = 0;
+        int bits = 0;
+        std::size_t i = 0;
+        for (; i < texto.size() && texto[i] != '='; ++i) {
+            char const c = texto[i];
+            int v = -1;
+            if (c >= 'A' && c <= 'Z') {
+                v = c - 'A';
+            } else if (c >= 'a' && c <= 'z') {
+                v = c - 'a' + 26;
+            } else if (digito(c)) {
+                v = c - '0' + 52;
+            } else if (c == '+' || c == '-') {
+                v = 62;
+            } else if (c == '/' || c == '_') {
+                v = 63;
+            } else {
+                return false;
+            }
+            acumulado = (acumulado << 6) | static_cast<std::uint32_t>(v);
+            bits += 6;
+            if (bits >= 8) {
+                bits -= 8;
+                saida += static_cast<char>((acumulado >> bits) & 0xFF);
+            }
+        }
+        for (; i < texto.size(); ++i) {
+            if (texto[i] != '=') {
+                return false;
+            }
+        }
+        return bits < 6;
+    }
+
+    // A scalar of a field, or of a wrapper's value, set or added.
+    bool escalar(Message& mensagem, FieldDescriptor const& campo)
+    {
+        Reflection const& r = *mensagem.GetReflection();
+        bool const repetido = campo.is_repeated();
+        numero lido;
+        std::string_view vista;
+        bool aspas = false;
+        bool logico = false;
+        bool verdade = false;
+        char const c = *p_;
+        if (c == '"' || c == '\'') {
+            if (!texto(texto_, vista)) {
+                return false;
+            }
+            aspas = true;
+        } else if (c == '-' || digito(c)) {
+            if (!ler_numero(lido, vista)) {
+                return false;
+            }
+        } else if (literal("true") || literal("false")) {
+            logico = true;
+            verdade = c == 't';
+            p_ += verdade ? 4 : 5;
+        } else if (c == '{') {
+            return falha_campo(campo, "starting an object on a scalar field");
+        } else {
+            return falha("expected a value");
+        }
+        auto recusa = [&] {
+            return falha_campo(campo, std::string("invalid value ") +
+                                          (aspas ? "\"" + std::string(vista) + "\"" : std::string(vista)) +
+                                          " for type " + std::string(campo.type_name()));
+        };
+        if (logico) {
+            if (campo.cpp_type() != FieldDescriptor::CPPTYPE_BOOL) {
+                return recusa();
+            }
+            repetido ? r.AddBool(&mensagem, &campo, verdade) : r.SetBool(&mensagem, &campo, verdade);
+            return true;
+        }
+        switch (campo.cpp_type()) {
+        case FieldDescriptor::CPPTYPE_STRING: {
+            if (!aspas) {
+                return recusa();
+            }
+            std::string valor;
+            if (campo.type() == FieldDescriptor::TYPE_BYTES) {
+                if (!base64(vista, valor)) {
+                    return recusa();
+                }
+            } else {
+                valor.assign(vista);
+            }
+            repetido ? r.AddString(&mensagem, &campo, std::move(valor))
+                     : r.SetString(&mensagem, &campo, std::move(valor));
+            return true;
+        }
+        case FieldDescriptor::CPPTYPE_INT32: return inteiro_do_campo<std::int32_t>(mensagem, campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_UINT32: return inteiro_do_campo<std::uint32_t>(mensagem, campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_INT64: return inteiro_do_campo<std::int64_t>(mensagem, campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_UINT64: return inteiro_do_campo<std::uint64_t>(mensagem, campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_ENUM: {
+            int valor = 0;
+            if (aspas) {
+                auto const* const nomeado = campo.enum_type()->FindValueByName(std::string(vista));
+                if (nomeado != nullptr) {
+                    valor = nomeado->number();
+                } else if (std::int32_t numero_lido = 0;
+                           inteiro(vista, numero_lido) && campo.enum_type()->FindValueByNumber(numero_lido) != nullptr) {
+                    valor = numero_lido;
+                } else {
+                    return recusa();
+                }
+            } else if (std::int32_t numero_lido = 0; inteiro(lido, numero_lido)) {
+                valor = numero_lido;
+            } else {
+                return recusa();
+            }
+            repetido ? r.AddEnumValue(&mensagem, &campo, valor) : r.SetEnumValue(&mensagem, &campo, valor);
+            return true;
+        }
+        case FieldDescriptor::CPPTYPE_DOUBLE:
+        case FieldDescriptor::CPPTYPE_FLOAT: {
+            double valor = 0;
+            if (!(aspas ? real(vista, valor) : real(lido, valor))) {
+                return recusa();
+            }
+            if (campo.cpp_type() == FieldDescriptor::CPPTYPE_DOUBLE) {
+                repetido ? r.AddDouble(&mensagem, &campo, valor) : r.SetDouble(&mensagem, &campo, valor);
+            } else {
+                if (std::isfinite(valor) && std::abs(valor) > std::numeric_limits<float>::max()) {
+                    return recusa();
+                }
+                auto const curto = static_cast<float>(valor);
+                repetido ? r.AddFloat(&mensagem, &campo, curto) : r.SetFloat(&mensagem, &campo, curto);
+            }
+            return true;
+        }
+        case FieldDescriptor::CPPTYPE_BOOL:
+            if (aspas && (vista == "true" || vista == "false")) {
+                repetido ? r.AddBool(&mensagem, &campo, vista == "true") : r.SetBool(&mensagem, &campo, vista == "true");
+                return true;
+            }
+            return recusa();
+        case FieldDescriptor::CPPTYPE_MESSAGE: break;
+        }
+        return recusa();
+    }
+
+    template <class T, class Recusa>
+    bool inteiro_do_campo(Message& mensagem, FieldDescriptor const& campo, bool aspas, std::string_view vista,
+                          numero const& lido, Recusa const& recusa)
+    {
+        T valor{};
+        if (!(aspas ? inteiro(vista, valor) : inteiro(lido, valor))) {
+            return recusa();
+        }
+        Reflection const& r = *mensagem.GetReflection();
+        bool const repetido = campo.is_repeated();
+        if constexpr (std::is_same_v<T, std::int32_t>) {
+            repetido ? r.AddInt32(&mensagem, &campo, valor) : r.SetInt32(&mensagem, &campo, valor);
+        } else if constexpr (std::is_same_v<T, std::uint32_t>) {
+            repetido ? r.AddUInt32(&mensagem, &campo, valor) : r.SetUInt32(&mensagem, &campo, valor);
+        } else if constexpr (std::is_same_v<T, std::int64_t>) {
+            repetido ? r.AddInt64(&mensagem, &campo, valor) : r.SetInt64(&mensagem, &campo, valor);
+        } else {
+            repetido ? r.AddUInt64(&mensagem, &campo, valor) : r.SetUInt64(&mensagem, &campo, valor);
+        }
+        return true;
+    }
+
+    std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos_;
+    char const* const inicio_;
+    char const* p_;
+    char const* const fim_;
+    std::string texto_;
+    std::string motivo_;
+};
+
+}  // namespace
+
+leitor_json::leitor_json(Descriptor const& raiz)
+{
+    indexar(raiz);
+}
+
+void leitor_json::indexar(Descriptor const& descritor)
+{
+    if (tipos_.count(&descritor) != 0) {
+        return;
+    }
+    tipo& novo = tipos_[&descritor];
+    std::string_view const nome = descritor.full_name();
+    if (nome.substr(0, 16) == "google.protobuf.") {
+        novo.embrulho = std::find(embrulhos.begin(), embrulhos.end(), nome) != embrulhos.end();
+        novo.desconhecido = !novo.embrulho;
+    }
+    // One bit per oneof in the reading of an object.
+    novo.desconhecido = novo.desconhecido || descritor.oneof_decl_count() > 64;
+    for (int i = 0; i < descritor.field_count(); ++i) {
+        FieldDescriptor const* const campo = descritor.field(i);
+        novo.campos.emplace(campo->name(), campo);
+        novo.campos.emplace(campo->json_name(), campo);
+    }
+    for (int i = 0; i < descritor.field_count(); ++i) {
+        if (descritor.field(i)->message_type() != nullptr) {
+            indexar(*descritor.field(i)->message_type());
+        }
+    }
+}
+
+bool leitor_json::ler(std::string_view texto, Message& mensagem, std::string& motivo) const
+{
+    leitura leitura(tipos_, texto);
+    if (leitura.documento(mensagem)) {
+        return true;
+    }
+    motivo = std::move(leitura.motivo());
+    return false;
+}
+
+}  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail

@@ -1,0 +1,50 @@
+#pragma once
+
+// The reading of a note's JSON text straight into its message, in one pass
+// and without an intermediate tree: the text is walked once and every value
+// is written through the message's reflection. The result is the one
+// protobuf's own JSON mapping gives for the same text (its default options),
+// leniencies of its reader included: single-quoted strings, unquoted keys,
+// a comma before a closing bracket, nested arrays flattened into a repeated
+// field, raw control characters in strings and an unknown escape standing
+// for the character itself. What it refuses is refused here too.
+
+#include <google/protobuf/descriptor.h>
+#include <google/protobuf/message.h>
+
+#include <string>
+#include <string_view>
+#include <unordered_map>
+
+namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
+
+class leitor_json {
+public:
+    // The field names of every message reachable from `raiz` are indexed
+    // here, once; reading needs no lock and no further allocation for names.
+    explicit leitor_json(google::protobuf::Descriptor const& raiz);
+
+    // Fills `mensagem` (of the root's type, expected cleared) from `texto`.
+    // On refusal, false and `motivo` says what and at which byte; `mensagem`
+    // may then hold part of the text and is for the caller to clear.
+    bool ler(std::string_view texto, google::protobuf::Message& mensagem, std::string& motivo) const;
+
+    // The objects nested deeper than this are refused, as protobuf does.
+    static constexpr int profundidade_maxima = 100;
+
+    struct tipo {
+        // By the name of the .proto file and by its lowerCamelCase form.
+        std::unordered_map<std::string_view, google::protobuf::FieldDescriptor const*> campos;
+        // google.protobuf's wrappers: written as their bare value as well.
+        bool embrulho = false;
+        // A well-known type whose JSON form this reader does not know.
+        bool desconhecido = false;
+    };
+
+private:
+    void indexar(google::protobuf::Descriptor const& descritor);
+
+    std::unordered_map<google::protobuf::Descriptor const*, tipo> tipos_;
+};
+
+}  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail
