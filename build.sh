@@ -1,7 +1,10 @@
 #!/usr/bin/env bash
 # Sets up a Debian 12 machine, builds, and runs the demo or the tests.
 #
-#   ./build.sh demo     install missing packages, build (build/), run the demo
+#   ./build.sh demo     install missing packages, build (build/), and run the
+#                       road offline with tarn against the bundled simulator:
+#                       an NFC-e and an NF-e issued, one cancelled, all checked
+#                       (files in build/tarn-demo/, or the folder given)
 #   ./build.sh test     the same set-up, then the whole test suite, twice: the
 #                       normal build (build/) and the AddressSanitizer +
 #                       UndefinedBehaviorSanitizer build (build-sanitize/)
@@ -74,7 +77,7 @@ case "$command" in
 demo)
     ensure_packages
     build build "${release[@]}"
-    ./build/tools/demo/velk-demo "$@"
+    tools/tarn/scripts/demo.sh "$@"
     ;;
 test)
     sanitize=1
@@ -176,7 +179,7 @@ fuzz)
     fi
     ;;
 *)
-    sed -n '2,22p' "$0" | sed 's/^# \{0,1\}//'
+    sed -n '2,25p' "$0" | sed 's/^# \{0,1\}//'
     exit 2
     ;;
 esac

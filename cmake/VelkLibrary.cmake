@@ -58,6 +58,35 @@ function(velk_add_library target)
     set_property(GLOBAL APPEND PROPERTY VELK_HEADER_ROOTS "${ARG_INCLUDE_ROOT}")
 endfunction()
 
+# velk_link_family(<target> <PUBLIC|PRIVATE|INTERFACE> <targets...>)
+#
+# For the helper libraries of the tree (certificates, the simulator, tarn's
+# pieces, the tests' support), which programs of both kinds link: each family
+# library among the targets stands for its shared form in a program that uses
+# the public interface (tarn, the simulator), and for its -static form in one
+# marked with velk_internal_program (tests, benchmarks, the demo, fuzzing), so
+# that no program holds two copies of a library.
+function(velk_link_family target scope)
+    set(items "")
+    foreach(item IN LISTS ARGN)
+        if(TARGET ${item}-static)
+            list(APPEND items "$<IF:$<BOOL:$<TARGET_PROPERTY:VELK_INTERNAL>>,${item}-static,${item}>")
+        else()
+            list(APPEND items ${item})
+        endif()
+    endforeach()
+    target_link_libraries(${target} ${scope} ${items})
+endfunction()
+
+# velk_internal_program(<target> <PUBLIC|PRIVATE> <targets...>): a program of
+# the tree that reaches internals: it links the -static forms of the family
+# libraries, directly and through the helper libraries.
+function(velk_internal_program target scope)
+    set_target_properties(${target} PROPERTIES VELK_INTERNAL ON)
+    velk_static_forms(items ${ARGN})
+    target_link_libraries(${target} ${scope} ${items})
+endfunction()
+
 # velk_static_forms(<out> <targets...>): the targets, with each family library
 # replaced by its -static form.
 function(velk_static_forms out)

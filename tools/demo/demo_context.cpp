@@ -1,37 +1,12 @@
 #include "demo_context.hpp"
 
+#include <tarn/json_value.hpp>
+
 #include <cstdio>
 #include <fstream>
 #include <stdexcept>
 
 namespace velk::demo {
-
-namespace {
-
-std::string json_string(std::string const& text)
-{
-    std::string out = "\"";
-    for (unsigned char const c : text) {
-        switch (c) {
-        case '"': out += "\\\""; break;
-        case '\\': out += "\\\\"; break;
-        case '\n': out += "\\n"; break;
-        case '\r': out += "\\r"; break;
-        case '\t': out += "\\t"; break;
-        default:
-            if (c < 0x20) {
-                char escaped[8];
-                std::snprintf(escaped, sizeof escaped, "\\u%04x", c);
-                out += escaped;
-            } else {
-                out += static_cast<char>(c);
-            }
-        }
-    }
-    return out + "\"";
-}
-
-}  // namespace
 
 void demo_context::write(manifest_entry const& entry, std::string const& contents)
 {
@@ -59,14 +34,14 @@ void demo_context::write_manifest() const
     for (auto const& entry : entries_) {
         json += first ? "\n" : ",\n";
         first = false;
-        json += "    {\"file\": " + json_string(entry.file) + ", \"kind\": " + json_string(entry.kind) +
-                ", \"layout\": " + json_string(entry.layout) + ", \"model\": " + json_string(entry.model) +
-                ", \"state\": " + json_string(entry.state) + ", \"signed\": " + (entry.is_signed ? "true" : "false") +
-                ", \"description\": " + json_string(entry.description) + "}";
+        json += "    {\"file\": " + tools::tarn::json_quoted(entry.file) + ", \"kind\": " + tools::tarn::json_quoted(entry.kind) +
+                ", \"layout\": " + tools::tarn::json_quoted(entry.layout) + ", \"model\": " + tools::tarn::json_quoted(entry.model) +
+                ", \"state\": " + tools::tarn::json_quoted(entry.state) + ", \"signed\": " + (entry.is_signed ? "true" : "false") +
+                ", \"description\": " + tools::tarn::json_quoted(entry.description) + "}";
     }
     json += "\n  ]";
     if (!id_token_.empty() || !csc_.empty()) {
-        json += ",\n  \"qrcode\": {\"id_token\": " + json_string(id_token_) + ", \"csc\": " + json_string(csc_) +
+        json += ",\n  \"qrcode\": {\"id_token\": " + tools::tarn::json_quoted(id_token_) + ", \"csc\": " + tools::tarn::json_quoted(csc_) +
                 ", \"note\": \"test values for homologation only\"}";
     }
     json += "\n}\n";
