@@ -62,7 +62,12 @@ void namespace_scope::declare_if_needed(std::size_t mark, std::string_view prefi
 
 namespace_scope::entry const* namespace_scope::find(std::string_view prefix) const
 {
-    for (std::size_t index = entries_.size(); index-- > 0;) {
+    return find_below(entries_.size(), prefix);
+}
+
+namespace_scope::entry const* namespace_scope::find_below(std::size_t mark, std::string_view prefix) const
+{
+    for (std::size_t index = mark; index-- > 0;) {
         if (entries_[index].prefix == prefix) {
             return &entries_[index];
         }

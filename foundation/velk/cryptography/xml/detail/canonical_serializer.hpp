@@ -1,0 +1,96 @@
+#pragma once
+
+// Internal: Canonical XML 1.0 of one element of a velk::xml tree in its
+// context, written straight from the tree in one pass.
+//
+// The bytes are those a verifier computes from the text document::save writes
+// for the whole tree: namespaces are declared where that text declares them
+// and rendered on an element only where they differ from its parent's, in the
+// order of their prefixes; attributes go in the order of their namespace URI
+// and local name, those without namespace first; texts, CDATA sections and
+// attribute values are escaped as the canonical form escapes them, with the
+// line ends of CDATA sections, comments and processing instructions
+// normalised as a parser would; an empty element is written with its end tag.
+// A differential test holds it to libxml2's canonicaliser.
+
+#include <velk/core/result/stack.hpp>
+#include <velk/cryptography/xml/detail/namespace_scope.hpp>
+#include <velk/xml/element.hpp>
+
+#include <cstddef>
+#include <functional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velk::cryptography {
+inline namespace v3 {
+namespace xml {
+namespace detail {
+
+class canonical_serializer {
+public:
+    // An element whose children are written as this one text instead.
+    struct replacement {
+        velk::xml::element const* target;
+        std::string const* contents;
+    };
+
+    // What to write. `ancestors` are those of `apex` in the caller's tree,
+    // outermost first: they are not written, but what they pass on to apex
+    // under inclusive canonicalisation is, namely the namespace declarations
+    // in scope and the xml: attributes. `excluded` (null for none) is left
+    // out with everything under it.
+    struct subtree {
+        std::span<velk::xml::element const* const> ancestors;
+        velk::xml::element const& apex;
+        velk::xml::element const* excluded = nullptr;
+        std::span<replacement const> replacements = {};
+        bool with_comments = false;
+    };
+
+    // Receives the canonical bytes in order, in pieces.
+    using sink = std::function<void(std::string_view piece)>;
+
+    // Fails with code 16 on an element name that is no qualified name or a
+    // namespace URI that is not absolute, as the tree refuses to save them;
+    // what went out before the failure is then to be thrown away.
+    bool write(subtree const& what, sink const& output, core::result::stack& stack);
+
+private:
+    struct attribute_entry {
+        std::string_view name;   // as written
+        std::string_view local;  // without prefix
+        std::string_view uri;    // of the prefix in scope; empty for none
+        std::string const* value;
+    };
+
+    bool write_apex(subtree const& what);
+    bool write_element(velk::xml::element const& value);
+    bool start_tag(velk::xml::element const& value);
+    bool write_children(velk::xml::element const& value);
+    // Writes declarations_ in the order of their prefixes.
+    bool write_declarations();
+    void gather_attributes(velk::xml::element const& value);
+    void write_attributes();
+    void flush_if_full();
+
+    void write_cdata_as_text(std::string_view text);
+    void write_normalised_line_ends(std::string_view text);
+
+    std::string out_;
+    namespace_scope scope_;
+    std::vector<namespace_scope::entry> declarations_;
+    std::vector<attribute_entry> attributes_;
+    velk::xml::element const* excluded_ = nullptr;
+    std::span<replacement const> replacements_;
+    bool with_comments_ = false;
+    sink const* output_ = nullptr;
+    std::string problem_;
+};
+
+}  // namespace detail
+}  // namespace xml
+}  // namespace v3
+}  // namespace velk::cryptography
