@@ -15,6 +15,11 @@ function(velk_add_library target)
         $<BUILD_INTERFACE:${ARG_INCLUDE_ROOT}>
         $<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>)
     target_link_libraries(${target} PUBLIC ${ARG_PUBLIC_LINK} PRIVATE ${ARG_PRIVATE_LINK})
+    # Calls between the functions of one library bind inside it instead of
+    # through the procedure linkage table: nothing interposes them, and the
+    # XML tree's small functions are called per node.
+    target_compile_options(${target} PRIVATE -fno-semantic-interposition)
+    target_link_options(${target} PRIVATE -Wl,-Bsymbolic-functions)
     set_property(GLOBAL APPEND PROPERTY VELK_LIBRARIES ${target})
     set_property(GLOBAL APPEND PROPERTY VELK_HEADER_ROOTS "${ARG_INCLUDE_ROOT}")
 endfunction()

@@ -34,46 +34,36 @@ std::string_view local_part_of(std::string_view qualified_name)
     return colon == std::string_view::npos ? qualified_name : qualified_name.substr(colon + 1);
 }
 
-// The canonical form's escapes, by byte; empty for a byte written as it is.
-using escape_table = std::array<std::string_view, 256>;
+// What the canonical form escapes, by byte: in texts, in attribute values, or
+// in both.
+enum escape_kind : unsigned char { in_text = 1, in_attribute = 2 };
 
-constexpr escape_table make_text_escapes()
+constexpr std::array<unsigned char, 256> make_escapes()
 {
-    escape_table table{};
-    table['&'] = "&amp;";
-    table['<'] = "&lt;";
-    table['>'] = "&gt;";
-    table['\r'] = "&#xD;";
+    std::array<unsigned char, 256> table{};
+    table['&'] = in_text | in_attribute;
+    table['<'] = in_text | in_attribute;
+    table['>'] = in_text;
+    table['"'] = in_attribute;
+    table['\t'] = in_attribute;
+    table['\n'] = in_attribute;
+    table['\r'] = in_text | in_attribute;
     return table;
 }
 
-constexpr escape_table make_attribute_escapes()
-{
-    escape_table table{};
-    table['&'] = "&amp;";
-    table['<'] = "&lt;";
-    table['"'] = "&quot;";
-    table['\t'] = "&#x9;";
-    table['\n'] = "&#xA;";
-    table['\r'] = "&#xD;";
-    return table;
-}
+constexpr std::array<unsigned char, 256> escapes = make_escapes();
 
-constexpr escape_table text_escapes = make_text_escapes();
-constexpr escape_table attribute_escapes = make_attribute_escapes();
-
-void append_escaped(std::string& out, std::string_view text, escape_table const& table)
+std::string_view escape_of(char c)
 {
-    std::size_t run = 0;
-    for (std::size_t index = 0; index < text.size(); ++index) {
-        std::string_view const replacement = table[static_cast<unsigned char>(text[index])];
-        if (!replacement.empty()) {
-            out.append(text.data() + run, index - run);
-            out.append(replacement);
-            run = index + 1;
-        }
+    switch (c) {
+    case '&': return "&amp;";
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '"': return "&quot;";
+    case '\t': return "&#x9;";
+    case '\n': return "&#xA;";
+    default: return "&#xD;";
     }
-    out.append(text.data() + run, text.size() - run);
 }
 
 // Whether a namespace URI is absolute, as the canonical form requires. The
@@ -111,6 +101,17 @@ bool comes_before(std::string_view a_uri, std::string_view a_name, std::string_v
 
 }  // namespace
 
+void canonical_serializer::buffer::grow(std::size_t more)
+{
+    std::size_t const capacity = std::max(capacity_ * 2, std::max(size_ + more, piece_size + 1024));
+    auto larger = std::make_unique<char[]>(capacity);
+    if (size_ != 0) {
+        std::memcpy(larger.get(), data_.get(), size_);
+    }
+    data_ = std::move(larger);
+    capacity_ = capacity;
+}
+
 bool canonical_serializer::write(subtree const& what, sink const& output, core::result::stack& stack)
 {
     out_.clear();
@@ -121,14 +122,11 @@ bool canonical_serializer::write(subtree const& what, sink const& output, core::
     with_comments_ = what.with_comments;
     output_ = &output;
     bool const written = write_apex(what);
-    if (written && !out_.empty()) {
-        output(out_);
+    if (written && out_.size() != 0) {
+        output(out_.view());
     }
     output_ = nullptr;
     out_.clear();
-    if (out_.capacity() > 4 * piece_size) {
-        out_.shrink_to_fit();
-    }
     if (!written) {
         core::result::fresh<cryptography_result_category::canonicalization_failed>(stack, problem_);
     }
@@ -138,7 +136,7 @@ bool canonical_serializer::write(subtree const& what, sink const& output, core::
 void canonical_serializer::flush_if_full()
 {
     if (out_.size() >= piece_size) {
-        (*output_)(out_);
+        (*output_)(out_.view());
         out_.clear();
     }
 }
@@ -152,8 +150,8 @@ bool canonical_serializer::start_tag(velk::xml::element const& value)
         problem_ = "nome de elemento inválido: \"" + name + "\"";
         return false;
     }
-    out_ += '<';
-    out_ += name;
+    out_.put('<');
+    out_.put(name);
     return true;
 }
 
@@ -195,13 +193,13 @@ bool canonical_serializer::write_apex(subtree const& what)
         }
     }
     write_attributes();
-    out_ += '>';
+    out_.put('>');
     if (!write_children(what.apex)) {
         return false;
     }
-    out_ += "</";
-    out_ += what.apex.get_qualified_name();
-    out_ += '>';
+    out_.put("</");
+    out_.put(what.apex.get_qualified_name());
+    out_.put('>');
     return true;
 }
 
@@ -228,13 +226,13 @@ bool canonical_serializer::write_element(velk::xml::element const& value)
     }
     gather_attributes(value);
     write_attributes();
-    out_ += '>';
+    out_.put('>');
     if (!write_children(value)) {
         return false;
     }
-    out_ += "</";
-    out_ += value.get_qualified_name();
-    out_ += '>';
+    out_.put("</");
+    out_.put(value.get_qualified_name());
+    out_.put('>');
     scope_.truncate(mark);
     flush_if_full();
     return true;
@@ -253,22 +251,22 @@ bool canonical_serializer::write_declarations()
             problem_ = "URI de namespace relativa: \"" + std::string(declaration.uri) + "\"";
             return false;
         }
-        out_ += " xmlns";
+        out_.put(" xmlns");
         if (!declaration.prefix.empty()) {
-            out_ += ':';
-            out_ += declaration.prefix;
+            out_.put(':');
+            out_.put(declaration.prefix);
         }
-        out_ += "=\"";
+        out_.put("=\"");
         // A URI read or accepted by the tree holds no "<", quote or line end:
         // only its "&" needs escaping.
         for (char const c : declaration.uri) {
             if (c == '&') {
-                out_ += "&amp;";
+                out_.put("&amp;");
             } else {
-                out_ += c;
+                out_.put(c);
             }
         }
-        out_ += '"';
+        out_.put('"');
     }
     return true;
 }
@@ -301,11 +299,11 @@ void canonical_serializer::write_attributes()
         });
     }
     for (attribute_entry const& entry : attributes_) {
-        out_ += ' ';
-        out_ += entry.name;
-        out_ += "=\"";
-        append_escaped(out_, *entry.value, attribute_escapes);
-        out_ += '"';
+        out_.put(' ');
+        out_.put(entry.name);
+        out_.put("=\"");
+        write_escaped(*entry.value, in_attribute);
+        out_.put('"');
     }
 }
 
@@ -313,7 +311,7 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
 {
     for (replacement const& replaced : replacements_) {
         if (replaced.target == &value) {
-            append_escaped(out_, *replaced.contents, text_escapes);
+            write_escaped(*replaced.contents, in_text);
             return true;
         }
     }
@@ -323,26 +321,40 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
                 return false;
             }
         } else if (velk::xml::text const* contents = child.as_text()) {
-            append_escaped(out_, contents->get_contents(), text_escapes);
+            write_escaped(contents->get_contents(), in_text);
         } else if (velk::xml::cdata_section const* section = child.as_cdata_section()) {
             write_cdata_as_text(section->get_contents());
         } else if (velk::xml::comment const* remark = child.as_comment()) {
             if (with_comments_) {
-                out_ += "<!--";
+                out_.put("<!--");
                 write_normalised_line_ends(remark->get_contents());
-                out_ += "-->";
+                out_.put("-->");
             }
         } else if (velk::xml::processing_instruction const* instruction = child.as_processing_instruction()) {
-            out_ += "<?";
-            out_ += instruction->get_target();
+            out_.put("<?");
+            out_.put(instruction->get_target());
             if (!instruction->get_data().empty()) {
-                out_ += ' ';
+                out_.put(' ');
                 write_normalised_line_ends(instruction->get_data());
             }
-            out_ += "?>";
+            out_.put("?>");
         }
     }
     return true;
+}
+
+void canonical_serializer::write_escaped(std::string_view text, unsigned char kind)
+{
+    std::size_t run = 0;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        char const c = text[index];
+        if ((escapes[static_cast<unsigned char>(c)] & kind) != 0) {
+            out_.put(text.substr(run, index - run));
+            out_.put(escape_of(c));
+            run = index + 1;
+        }
+    }
+    out_.put(text.substr(run));
 }
 
 // A parser turns every CR LF and lone CR of a CDATA section into LF; the
@@ -352,17 +364,18 @@ void canonical_serializer::write_cdata_as_text(std::string_view text)
     std::size_t run = 0;
     for (std::size_t index = 0; index < text.size(); ++index) {
         char const c = text[index];
-        std::string_view replacement = text_escapes[static_cast<unsigned char>(c)];
-        if (c == '\r') {
-            replacement = index + 1 < text.size() && text[index + 1] == '\n' ? std::string_view() : "\n";
-        } else if (replacement.empty()) {
+        if ((escapes[static_cast<unsigned char>(c)] & in_text) == 0) {
             continue;
         }
-        out_.append(text.data() + run, index - run);
-        out_.append(replacement);
+        out_.put(text.substr(run, index - run));
         run = index + 1;
+        if (c != '\r') {
+            out_.put(escape_of(c));
+        } else if (index + 1 >= text.size() || text[index + 1] != '\n') {
+            out_.put('\n');
+        }
     }
-    out_.append(text.data() + run, text.size() - run);
+    out_.put(text.substr(run));
 }
 
 // Comments and processing instructions keep their text as it is, but for the
@@ -371,9 +384,9 @@ void canonical_serializer::write_normalised_line_ends(std::string_view text)
 {
     for (std::size_t index = 0; index < text.size(); ++index) {
         if (text[index] != '\r') {
-            out_ += text[index];
+            out_.put(text[index]);
         } else if (index + 1 >= text.size() || text[index + 1] != '\n') {
-            out_ += '\n';
+            out_.put('\n');
         }
     }
 }

@@ -18,7 +18,9 @@
 #include <velk/xml/element.hpp>
 
 #include <cstddef>
+#include <cstring>
 #include <functional>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -59,6 +61,36 @@ public:
     bool write(subtree const& what, sink const& output, core::result::stack& stack);
 
 private:
+    // The bytes written and not handed over yet; appends are inline.
+    class buffer {
+    public:
+        void put(char c)
+        {
+            if (size_ == capacity_) {
+                grow(1);
+            }
+            data_[size_++] = c;
+        }
+        void put(std::string_view text)
+        {
+            if (capacity_ - size_ < text.size()) {
+                grow(text.size());
+            }
+            std::memcpy(data_.get() + size_, text.data(), text.size());
+            size_ += text.size();
+        }
+        std::string_view view() const { return {data_.get(), size_}; }
+        std::size_t size() const { return size_; }
+        void clear() { size_ = 0; }
+
+    private:
+        void grow(std::size_t more);
+
+        std::unique_ptr<char[]> data_;
+        std::size_t size_ = 0;
+        std::size_t capacity_ = 0;
+    };
+
     struct attribute_entry {
         std::string_view name;   // as written
         std::string_view local;  // without prefix
@@ -76,10 +108,11 @@ private:
     void write_attributes();
     void flush_if_full();
 
+    void write_escaped(std::string_view text, unsigned char kind);
     void write_cdata_as_text(std::string_view text);
     void write_normalised_line_ends(std::string_view text);
 
-    std::string out_;
+    buffer out_;
     namespace_scope scope_;
     std::vector<namespace_scope::entry> declarations_;
     std::vector<attribute_entry> attributes_;

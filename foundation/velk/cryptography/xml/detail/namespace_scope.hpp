@@ -24,6 +24,10 @@ public:
     struct entry {
         std::string_view prefix;
         std::string_view uri;
+        // A text of the tree found equal to uri once: the elements of a tree
+        // share their namespace's text, so the next comparison is of
+        // addresses only.
+        mutable char const* same_text = nullptr;
     };
 
     std::size_t size() const { return entries_.size(); }
