@@ -138,9 +138,10 @@ struct located {
 void collect_by_id(element const& current, std::string_view id, std::vector<element const*>& path,
                    std::vector<located>& found)
 {
-    velk::xml::attribute const* attribute = current.find_attribute("", "Id");
-    if (attribute != nullptr && attribute->get_value() == id) {
-        found.push_back({&current, path});
+    for (velk::xml::attribute const& attribute : current.get_attributes()) {
+        if (attribute.get_name() == "Id" && attribute.get_value() == id) {
+            found.push_back({&current, path});
+        }
     }
     path.push_back(&current);
     for (auto const& child : current.get_node_range()) {

@@ -101,6 +101,34 @@ bool comes_before(std::string_view a_uri, std::string_view a_name, std::string_v
 
 }  // namespace
 
+namespace {
+
+// The memory of the last buffer of the thread, for the next: a signature
+// writes two canonical forms, and a point of sale signs one document after
+// another.
+struct spare_memory {
+    std::unique_ptr<char[]> data;
+    std::size_t capacity = 0;
+};
+
+thread_local spare_memory spare;
+
+}  // namespace
+
+canonical_serializer::buffer::buffer() : data_(std::move(spare.data)), capacity_(spare.capacity)
+{
+    spare.capacity = 0;
+}
+
+canonical_serializer::buffer::~buffer()
+{
+    // Memory grown by one large text goes back to the system.
+    if (spare.data == nullptr && capacity_ <= 4 * piece_size) {
+        spare.data = std::move(data_);
+        spare.capacity = capacity_;
+    }
+}
+
 void canonical_serializer::buffer::grow(std::size_t more)
 {
     std::size_t const capacity = std::max(capacity_ * 2, std::max(size_ + more, piece_size + 1024));

@@ -61,9 +61,15 @@ public:
     bool write(subtree const& what, sink const& output, core::result::stack& stack);
 
 private:
-    // The bytes written and not handed over yet; appends are inline.
+    // The bytes written and not handed over yet; appends are inline. Its
+    // memory stays with the thread between documents.
     class buffer {
     public:
+        buffer();
+        ~buffer();
+        buffer(buffer const&) = delete;
+        buffer& operator=(buffer const&) = delete;
+
         void put(char c)
         {
             if (size_ == capacity_) {

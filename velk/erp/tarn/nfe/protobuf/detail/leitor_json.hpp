@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
 
@@ -32,9 +33,31 @@ public:
     // The objects nested deeper than this are refused, as protobuf does.
     static constexpr int profundidade_maxima = 100;
 
+    struct tipo;
+
+    // A field with what reading it asks of its descriptor, asked once: the
+    // descriptor's own answers go through a lock-free but costly once-check
+    // on every call.
+    struct campo {
+        google::protobuf::FieldDescriptor const* descritor = nullptr;
+        google::protobuf::FieldDescriptor::CppType tipo_cpp{};
+        bool repetido = false;
+        bool bytes = false;
+        // The index of its oneof; -1 for none.
+        int oneof = -1;
+        // The type of a message field; null for a scalar.
+        tipo const* mensagem = nullptr;
+        google::protobuf::EnumDescriptor const* enumeracao = nullptr;
+    };
+
     struct tipo {
+        // The fields in the order of the descriptor.
+        std::vector<campo> lista;
         // By the name of the .proto file and by its lowerCamelCase form.
-        std::unordered_map<std::string_view, google::protobuf::FieldDescriptor const*> campos;
+        std::unordered_map<std::string_view, campo const*> campos;
+        // The one reflection of the messages of a generated type; null for
+        // another.
+        google::protobuf::Reflection const* reflexao = nullptr;
         // google.protobuf's wrappers: written as their bare value as well.
         bool embrulho = false;
         // A well-known type whose JSON form this reader does not know.
@@ -42,7 +65,7 @@ public:
     };
 
 private:
-    void indexar(google::protobuf::Descriptor const& descritor);
+    tipo& indexar(google::protobuf::Descriptor const& descritor);
 
     std::unordered_map<google::protobuf::Descriptor const*, tipo> tipos_;
 };
