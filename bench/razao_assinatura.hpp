@@ -6,6 +6,10 @@
 // same repetition or aggregate. The target of the library is a ratio, never a
 // time, since the machine that runs it is not known.
 //
+// A measure run with several threads gains a column "per_thread_gain": its
+// items per second over those of the same measure with one thread, per
+// added thread (2 threads doing twice the work of one give 2).
+//
 // The programs that use it call VELK_BENCHMARK_MAIN_RAZAO() instead of
 // BENCHMARK_MAIN().
 
@@ -32,12 +36,22 @@ public:
             }
             auto const key = std::make_tuple(run.threads, run.repetition_index, run.aggregate_name);
             double const time = per_iteration(run);
-            if (run.run_name.function_name == "rsa_2048_signature") {
+            if (run.run_name.function_name.rfind("rsa_2048_signature", 0) == 0) {
                 signature_[key] = time;
             }
             auto const found = signature_.find(key);
             if (found != signature_.end() && found->second > 0) {
                 run.counters["x_rsa"] = benchmark::Counter(time / found->second);
+            }
+            auto const items = run.counters.find("items_per_second");
+            if (items != run.counters.end()) {
+                auto const family = std::make_tuple(run.run_name.function_name + run.run_name.args,
+                                                    run.repetition_index, run.aggregate_name);
+                if (run.threads == 1) {
+                    one_thread_[family] = items->second.value;
+                } else if (auto const one = one_thread_.find(family); one != one_thread_.end() && one->second > 0) {
+                    run.counters["per_thread_gain"] = benchmark::Counter(items->second.value / one->second);
+                }
             }
         }
         ConsoleReporter::ReportRuns(with_ratio);
@@ -53,6 +67,7 @@ private:
     }
 
     std::map<std::tuple<int, int64_t, std::string>, double> signature_;
+    std::map<std::tuple<std::string, int64_t, std::string>, double> one_thread_;
 };
 
 }  // namespace velk::bench

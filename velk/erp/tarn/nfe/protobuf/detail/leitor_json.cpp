@@ -179,8 +179,9 @@ bool excede_para_cima(std::string_view texto)
 
 class leitura {
 public:
-    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, std::string_view texto)
-        : tipos_(tipos), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
+    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, leitor_json::fabrica& fabrica,
+            std::string_view texto)
+        : tipos_(tipos), fabrica_(fabrica), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
     {
     }
 
@@ -481,7 +482,8 @@ private:
             if (*p_ != '{' && !campo.mensagem->embrulho) {
                 return falha_campo(campo, "a message is written as an object");
             }
-            return mensagem_do_valor(*reflexao(mensagem, tipo).AddMessage(&mensagem, campo.descritor), campo,
+            google::protobuf::MessageFactory* const fabrica = reflexao_do_tipo_ ? &fabrica_ : nullptr;
+            return mensagem_do_valor(*reflexao(mensagem, tipo).AddMessage(&mensagem, campo.descritor, fabrica), campo,
                                      profundidade);
         }
         if (*p_ == '{') {
@@ -868,6 +870,7 @@ private:
     }
 
     std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos_;
+    leitor_json::fabrica& fabrica_;
     bool reflexao_do_tipo_ = false;
     char const* const inicio_;
     char const* p_;
@@ -899,6 +902,7 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     // One bit per oneof in the reading of an object.
     novo.desconhecido = novo.desconhecido || descritor.oneof_decl_count() > 64;
     if (Message const* prototipo = google::protobuf::MessageFactory::generated_factory()->GetPrototype(&descritor)) {
+        novo.prototipo = prototipo;
         novo.reflexao = prototipo->GetReflection();
     }
     novo.lista.resize(static_cast<std::size_t>(descritor.field_count()));
@@ -922,9 +926,15 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     return novo;
 }
 
+Message const* leitor_json::fabrica::GetPrototype(Descriptor const* tipo)
+{
+    auto const achado = tipos_.find(tipo);
+    return achado == tipos_.end() ? nullptr : achado->second.prototipo;
+}
+
 bool leitor_json::ler(std::string_view texto, Message& mensagem, std::string& motivo) const
 {
-    leitura leitura(tipos_, texto);
+    leitura leitura(tipos_, fabrica_, texto);
     if (leitura.documento(mensagem)) {
         return true;
     }

@@ -24,6 +24,8 @@ public:
     // The field names of every message reachable from `raiz` are indexed
     // here, once; reading needs no lock and no further allocation for names.
     explicit leitor_json(google::protobuf::Descriptor const& raiz);
+    leitor_json(leitor_json const&) = delete;
+    leitor_json& operator=(leitor_json const&) = delete;
 
     // Fills `mensagem` (of the root's type, expected cleared) from `texto`.
     // On refusal, false and `motivo` says what and at which byte; `mensagem`
@@ -53,6 +55,8 @@ public:
     struct tipo {
         // The fields in the order of the descriptor.
         std::vector<campo> lista;
+        // The default message of a generated type; null for another.
+        google::protobuf::Message const* prototipo = nullptr;
         // By the name of the .proto file and by its lowerCamelCase form.
         std::unordered_map<std::string_view, campo const*> campos;
         // The one reflection of the messages of a generated type; null for
@@ -64,10 +68,24 @@ public:
         bool desconhecido = false;
     };
 
+    // The default messages of the indexed generated types, found without the
+    // lock protobuf's own factory takes on every question; null for another
+    // type. Given to reflection where it makes the first element of a
+    // repeated field.
+    class fabrica : public google::protobuf::MessageFactory {
+    public:
+        explicit fabrica(std::unordered_map<google::protobuf::Descriptor const*, tipo> const& tipos) : tipos_(tipos) {}
+        google::protobuf::Message const* GetPrototype(google::protobuf::Descriptor const* tipo) override;
+
+    private:
+        std::unordered_map<google::protobuf::Descriptor const*, tipo> const& tipos_;
+    };
+
 private:
     tipo& indexar(google::protobuf::Descriptor const& descritor);
 
     std::unordered_map<google::protobuf::Descriptor const*, tipo> tipos_;
+    mutable fabrica fabrica_{tipos_};
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail
