@@ -4,30 +4,58 @@
 
 #include <httplib.h>
 
+#include <algorithm>
 #include <chrono>
 #include <mutex>
+#include <optional>
 #include <stdexcept>
 #include <thread>
 
 namespace velk::test {
 
+namespace {
+
+// What a streamed answer sends at a time.
+constexpr std::size_t piece = 64 * 1024;
+
+// The bytes of a streamed answer from `offset` on, at most `length` of them.
+std::string streamed_piece(canned_authority::streamed_answer const& answer, std::size_t offset, std::size_t length)
+{
+    std::size_t const end = std::min(answer.size, offset + length);
+    std::string piece;
+    if (offset < answer.head.size()) {
+        piece = answer.head.substr(offset, end - offset);
+    }
+    piece.resize(end > offset ? end - offset : 0, ' ');
+    return piece;
+}
+
+}  // namespace
+
 struct canned_authority::impl {
     std::string answer;
+    std::optional<streamed_answer> streamed;
     httplib::SSLServer server;
     int port = 0;
     std::thread listener;
     mutable std::mutex lock;
     std::vector<std::string> bodies;
 
-    explicit impl(std::string canned)
+    impl(std::string canned, std::optional<streamed_answer> long_answer)
         : answer(std::move(canned)),
+          streamed(std::move(long_answer)),
           server(sefaz_simulator::pki().server_certificate_file().c_str(),
                  sefaz_simulator::pki().server_key_file().c_str(), sefaz_simulator::pki().ca_file().c_str())
     {
     }
 };
 
-canned_authority::canned_authority(std::string answer) : impl_(std::make_unique<impl>(std::move(answer)))
+canned_authority::canned_authority(std::string answer) : canned_authority(std::move(answer), std::nullopt) {}
+
+canned_authority::canned_authority(streamed_answer answer) : canned_authority(std::string(), std::move(answer)) {}
+
+canned_authority::canned_authority(std::string answer, std::optional<streamed_answer> streamed)
+    : impl_(std::make_unique<impl>(std::move(answer), std::move(streamed)))
 {
     impl& self = *impl_;
     if (!self.server.is_valid()) {
@@ -38,7 +66,29 @@ canned_authority::canned_authority(std::string answer) : impl_(std::make_unique<
             std::lock_guard<std::mutex> const hold(self.lock);
             self.bodies.push_back(request.body);
         }
-        response.set_content(self.answer, "application/soap+xml; charset=utf-8");
+        char const* const type = "application/soap+xml; charset=utf-8";
+        if (!self.streamed) {
+            response.set_content(self.answer, type);
+            return;
+        }
+        // A client that stops reading makes a write fail, which ends the answer.
+        streamed_answer const& streamed = *self.streamed;
+        if (streamed.chunked) {
+            response.set_chunked_content_provider(type, [&streamed](std::size_t offset, httplib::DataSink& sink) {
+                std::string const bytes = streamed_piece(streamed, offset, piece);
+                if (bytes.empty()) {
+                    sink.done();
+                    return true;
+                }
+                return sink.write(bytes.data(), bytes.size());
+            });
+        } else {
+            response.set_content_provider(
+                streamed.size, type, [&streamed](std::size_t offset, std::size_t length, httplib::DataSink& sink) {
+                    std::string const bytes = streamed_piece(streamed, offset, std::min(length, piece));
+                    return sink.write(bytes.data(), bytes.size());
+                });
+        }
     });
     self.port = self.server.bind_to_any_port("127.0.0.1");
     if (self.port <= 0) {

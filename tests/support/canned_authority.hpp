@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,7 +14,17 @@ namespace velk::test {
 // test chooses: a real answer kept from an authority, or one shaped to fail.
 class canned_authority {
 public:
+    // An answer too long to hold in memory: `head`, then blanks up to `size`
+    // bytes in all, made piece by piece as it is sent, with its length
+    // announced or, `chunked`, without it.
+    struct streamed_answer {
+        std::string head;
+        std::size_t size = 0;
+        bool chunked = false;
+    };
+
     explicit canned_authority(std::string answer);
+    explicit canned_authority(streamed_answer answer);
     ~canned_authority();
     canned_authority(canned_authority const&) = delete;
     canned_authority& operator=(canned_authority const&) = delete;
@@ -23,6 +35,8 @@ public:
     std::vector<std::string> received() const;
 
 private:
+    canned_authority(std::string answer, std::optional<streamed_answer> streamed);
+
     struct impl;
     std::unique_ptr<impl> impl_;
 };

@@ -4,6 +4,7 @@
 #include <velk/core/result/stack.hpp>
 #include <velk/xml/element.hpp>
 
+#include <cstddef>
 #include <memory>
 
 namespace velk::xml {
@@ -19,13 +20,18 @@ public:
     document& operator=(document&& other) noexcept;
     ~document();
 
+    // The largest input load reads, in bytes: libxml2 goes no further than
+    // this into a document, and a larger one is refused before any of it is
+    // parsed (code 1, "Document is too large").
+    static constexpr std::size_t largest_input = 10'000'000;
+
     // Parses bytes into the tree, replacing what the document held. Whitespace
     // text is kept as text nodes, CDATA as CDATA sections, comments and
     // processing instructions inside the root as they are (those outside it
     // are dropped). Hostile input is refused on the stack (xml_result_category,
     // a fresh report): no DTD is accepted (code 2), so no entity is declared,
     // expanded or fetched, and nothing touches the network; malformed input,
-    // libxml2's depth limit included, is code 1. On failure the document keeps
+    // libxml2's depth limit and largest_input included, is code 1. On failure the document keeps
     // what it held. Safe to call from several threads on distinct documents.
     bool load(core::byte_array const& bytes, core::result::stack& stack);
 

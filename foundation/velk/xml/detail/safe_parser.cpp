@@ -3,13 +3,13 @@
 #include <velk/core/result/report.hpp>
 #include <velk/xml/detail/libxml2_session.hpp>
 #include <velk/xml/detail/namespace_uris.hpp>
+#include <velk/xml/document.hpp>
 #include <velk/xml/xml_result_category.hpp>
 
 #include <libxml/parser.h>
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
-#include <climits>
 #include <string>
 
 namespace velk::xml {
@@ -57,7 +57,7 @@ void libxml2_document_deleter::operator()(_xmlDoc* document) const
 libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result::stack& stack)
 {
     libxml2_session session;
-    if (bytes.empty() || bytes.size() > static_cast<std::size_t>(INT_MAX)) {
+    if (bytes.empty() || bytes.size() > document::largest_input) {
         report_malformed(stack, session, bytes.empty() ? "Document is empty" : "Document is too large");
         return nullptr;
     }
@@ -90,11 +90,12 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
         report_malformed(stack, session, "Document is not well-formed");
         return nullptr;
     }
-    // The namespaces are well formed but for URIs libxml2 doubted: judged
-    // again as declared.
+    // Every URI declared is judged again as declared: libxml2 doubts some
+    // that are good (see namespace_uris), and passes a relative one when a
+    // prefix declares it, which no canonical form, and so no signature, takes.
     std::string problem;
     int line = 0;
-    if (session.has_doubted_namespace_uri() && !namespace_uris::check_declared(*document, problem, line)) {
+    if (!namespace_uris::check_declared(*document, problem, line)) {
         core::result::fresh<xml_result_category::malformed>(stack, problem, std::to_string(line));
         return nullptr;
     }

@@ -22,6 +22,8 @@ using libxml2_document = std::unique_ptr<_xmlDoc, libxml2_document_deleter>;
 //   is seen, before its internal subset is read: no entity is ever declared,
 //   so none is expanded ("billion laughs"), fetched (file:, http:) or used as a
 //   parameter entity;
+// - every namespace URI declared must be absolute, prefixed or not, since
+//   no canonical form takes another;
 // - nothing is loaded from the network, and libxml2's limits on depth, name and
 //   text sizes stay in force;
 // - blanks, CDATA sections and comments come through as written.

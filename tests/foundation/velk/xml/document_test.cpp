@@ -281,8 +281,12 @@ TEST(document_load, hostile_and_malformed_input_fails_cleanly)
         // No canonical form takes it, so nothing read so could be signed.
         {"relative namespace URI", "<a xmlns=\"relative\"/>", 1},
         {"relative namespace URI with an ampersand", "<a xmlns=\"a&amp;b&amp;c\"/>", 1},
+        // libxml2 judges a prefix's URI only in its pedantic mode.
+        {"relative namespace URI of a prefix", "<a xmlns:p=\"relative\" p:b=\"1\"/>", 1},
+        {"namespace URI of a prefix whose colon follows a fragment", "<a><b xmlns:x=\"ur#n:x\"/></a>", 1},
         {"namespace URI that is none", "<a><b xmlns:p=\"urn:a b&amp;c&amp;d\"/></a>", 1},
         {"empty namespace URI of a prefix", "<a xmlns:p=\"\"/>", 1},
+        {"one byte beyond the largest input", "<a/>" + std::string(document::largest_input - 3, ' '), 1},
     };
     testing::internal::CaptureStderr();
     for (auto const& item : cases) {

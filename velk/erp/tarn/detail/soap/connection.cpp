@@ -135,7 +135,8 @@ message connection::perform(message const& request, std::string const& endpoint_
         core::fatal_exit("Out of memory: não foi possível alocar memória para tipo 'CURL'");
     }
     char error_buffer[CURL_ERROR_SIZE] = {};
-    core::byte_array answer;
+    bounded_answer<core::byte_array> answer;
+    answer.limit = largest_answer;
     header_list const headers = make_headers(action_url);
     if (!headers) {
         report_curl_failure(CURLE_OUT_OF_MEMORY, "", result);
@@ -187,9 +188,13 @@ message connection::perform(message const& request, std::string const& endpoint_
     CURLcode const performed = curl_easy_perform(handle);
     if (performed != CURLE_OK) {
         report_curl_failure(performed, error_buffer, result);
+        if (answer.over_limit) {
+            core::result::chain<servico::resposta_ilegivel>(
+                result, "A resposta da receita excede o limite de " + std::to_string(largest_answer) + " bytes");
+        }
         return message();
     }
-    return parse_response(answer, result);
+    return parse_response(answer.bytes, result);
 }
 
 }  // namespace velk::erp::inline v4::tarn::detail::soap

@@ -5,8 +5,10 @@
 #include <velk/cryptography/pkcs12.hpp>
 #include <velk/erp/tarn/detail/soap/message.hpp>
 #include <velk/network/proxy.hpp>
+#include <velk/xml/document.hpp>
 
 #include <chrono>
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -27,6 +29,15 @@ public:
         std::string ca_info_path;
     };
 
+    // The largest answer read, in bytes: the most the XML reader takes, far
+    // above what an authority sends (a batch's 50 protocols, a query by key
+    // with its events, are tens of kilobytes), and small enough that a server
+    // that never stops costs no more than this. A larger answer is refused as
+    // it arrives, never held whole, whether its length is announced or not,
+    // and counted as libcurl hands it over, after any content encoding is
+    // undone.
+    static constexpr std::size_t largest_answer = xml::document::largest_input;
+
     connection(core::optional<network::proxy> proxy, std::chrono::milliseconds timeout,
                std::shared_ptr<auth_impl const> auth);
 
@@ -36,7 +47,9 @@ public:
     // message, on an empty endpoint or action (servico code 5, nothing sent),
     // a zero time-out (servico code 3, nothing sent), a transport failure
     // (curl_result_category, with libcurl's text in "curl_message"), an HTTP
-    // status of 400 or more (curl code 8) and whatever parse_response refuses.
+    // status of 400 or more (curl code 8), an answer larger than
+    // largest_answer (curl code 9, the transfer stopped, under servico code 2
+    // naming the limit) and whatever parse_response refuses.
     // Only TLS 1.2 or later is spoken, a redirect is followed to https only,
     // and memory running out is reported (curl code 10), never thrown. Calls
     // may run at the same time in any threads: nothing is shared but the

@@ -1,8 +1,11 @@
 // What the transport promises beyond a single exchange: a redirect never
-// carries the signed envelope out of TLS, and calls from many threads at once
-// are independent.
+// carries the signed envelope out of TLS, an answer that never ends costs no
+// more than the limit, and calls from many threads at once are independent.
+#include <velk/erp/tarn/detail/soap/connection.hpp>
 #include <velk/erp/tarn/detail/soap/curl_result_category.hpp>
+#include <velk/erp/tarn/nfe/servico_result_category.hpp>
 
+#include <support/canned_authority.hpp>
 #include <support/sefaz_simulator.hpp>
 
 #include "status_exchange_teste.hpp"
@@ -16,6 +19,7 @@
 #include <unistd.h>
 
 #include <atomic>
+#include <fstream>
 #include <latch>
 #include <mutex>
 #include <string>
@@ -118,6 +122,84 @@ TEST(status_autorizador_transport, a_redirect_is_followed_to_https_only)
     }
     EXPECT_EQ(clear_text.received(), "");
     EXPECT_EQ(secure_target.recorded_requests().size(), 2u) << "the envelope goes on to an https target";
+}
+
+// Resident memory of the process at its peak since the last reset_peak, in
+// bytes.
+std::size_t peak_resident_bytes()
+{
+    std::ifstream status("/proc/self/status");
+    std::string line;
+    while (std::getline(status, line)) {
+        if (line.rfind("VmHWM:", 0) == 0) {
+            return std::stoull(line.substr(6)) * 1024;
+        }
+    }
+    ADD_FAILURE() << "no VmHWM in /proc/self/status";
+    return 0;
+}
+
+void reset_peak()
+{
+    std::ofstream("/proc/self/clear_refs") << "5";
+}
+
+// Answers made as they are sent, up to 200 MB: one over the limit stops the
+// transfer where the limit falls, whether its length was announced or not,
+// and the process never holds it; one of exactly the limit is read.
+TEST(status_autorizador_transport, an_answer_beyond_the_limit_is_refused_as_it_arrives)
+{
+    constexpr std::size_t limit = soap::connection::largest_answer;
+    constexpr std::size_t megabyte = 1024 * 1024;
+    // The answer at most and the copies its reading makes: well below the 200
+    // MB sent. AddressSanitizer keeps freed memory aside for a while (the
+    // answer's former buffers, the server's pieces), which still stays below
+    // what holding the whole answer would cost there, twice its size at least.
+#if defined(__SANITIZE_ADDRESS__)
+    constexpr std::size_t most_growth = 16 * limit;
+#else
+    constexpr std::size_t most_growth = 4 * limit;
+#endif
+    std::string const status_answer = velk::test::soap_envelope(
+        "nfeResultMsg",
+        "<retConsStatServ versao=\"4.00\" xmlns=\"http://www.portalfiscal.inf.br/nfe\"><tpAmb>2</tpAmb>"
+        "<verAplic>SP</verAplic><cStat>107</cStat><xMotivo>Servico em Operacao</xMotivo><cUF>35</cUF>"
+        "<dhRecbto>2024-05-15T09:00:00-03:00</dhRecbto></retConsStatServ>");
+    struct case_ {
+        char const* what;
+        std::size_t size;
+        bool chunked;
+        bool refused;
+    };
+    case_ const cases[] = {
+        {"200 MB, length announced", 200 * megabyte, false, true},
+        {"200 MB, chunked without a length", 200 * megabyte, true, true},
+        {"one byte over the limit", limit + 1, true, true},
+        {"exactly the limit", limit, true, false},
+    };
+    for (auto const& each : cases) {
+        SCOPED_TRACE(each.what);
+        velk::test::canned_authority const authority(
+            velk::test::canned_authority::streamed_answer{status_answer, each.size, each.chunked});
+        reset_peak();
+        std::size_t const before = peak_resident_bytes();
+        stack result;
+        auto const answer = ready_service(std::chrono::milliseconds(120000))
+                                .executar(status_request(), server_at(authority.url()), result);
+        EXPECT_LT(peak_resident_bytes() - before, most_growth);
+        if (!each.refused) {
+            EXPECT_FALSE(result.has_failed()) << result.to_string();
+            EXPECT_EQ(answer.get_codigo_status(), 107);
+            continue;
+        }
+        ASSERT_EQ(result.size(), 2u) << result.to_string();
+        EXPECT_EQ(result.get_category(), nfe::servico_result_category::instance());
+        EXPECT_EQ(result.get_value(), nfe::servico_result_category::resposta_ilegivel.value);
+        EXPECT_EQ(*result.top().find_argument("description"),
+                  "A resposta da receita excede o limite de 10000000 bytes");
+        auto const& transport = *result.begin();
+        EXPECT_EQ(transport.get_value(), soap::curl_result_category::erro_escrita.value);
+    }
 }
 
 // One service object and one simulator for all: the certificate, the

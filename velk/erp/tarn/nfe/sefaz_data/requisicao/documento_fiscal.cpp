@@ -134,6 +134,24 @@ std::string digest_of(xml::element const& nfe, xml::element const& inf_nfe)
     return core::binary_encoder::encode(core::binary_encoding::base64, digest);
 }
 
+// The layout admits 990 items (det) in a document: one with more is refused
+// by code 2 with their number, before anything else of it is read.
+constexpr std::size_t most_items = 990;
+
+bool within_items_limit(xml::element const& inf_nfe, core::result::stack& stack)
+{
+    std::size_t items = 0;
+    for (xml::node const& child : inf_nfe.get_node_range()) {
+        xml::element const* element = child.as_element();
+        if (element != nullptr && element->get_name() == "det" && ++items > most_items) {
+            core::result::fresh<result_category::valor_elemento_invalido>(stack, "NFe/infNFe/det",
+                                                                           std::to_string(items));
+            return false;
+        }
+    }
+    return true;
+}
+
 }  // namespace
 
 documento_fiscal::dados::dados(dados const& other)
@@ -174,6 +192,9 @@ documento_fiscal documento_fiscal::from_xml(xml::element&& elemento, core::resul
     }
     // A document of layout 2.00 only travels as its XML.
     if (data.campos.versao_layout == versao::versao_2_00) {
+        return result;
+    }
+    if (!within_items_limit(*data.inf_nfe, stack)) {
         return result;
     }
     read_fields(found, data.campos, stack);

@@ -42,7 +42,8 @@ public:
     // for an Id not of 47 characters; chained on the converter's failure:
     // code 3 for a key that does not read (named "NFE/infNFe/Id", the value
     // without its first three characters) or a versao that does not, code 2
-    // for a value that does not. A document of layout 2.00 is read no further
+    // for a value that does not; code 2 "NFe/infNFe/det" with their number
+    // for more items than the layout's 990. A document of layout 2.00 is read no further
     // than its key and version. After a failure the object is not to be used.
     static documento_fiscal from_xml(xml::element const& elemento, core::result::stack& stack);
     // The same for the root of a document; a document without root is code 5.

@@ -321,6 +321,16 @@ struct reading_failure {
     std::string second_value;
 };
 
+// `count` empty items, enough to be counted.
+std::string items(int count)
+{
+    std::string text;
+    for (int item = 1; item <= count; ++item) {
+        text += "<det nItem=\"" + std::to_string(item) + "\"/>";
+    }
+    return text;
+}
+
 TEST(documento_fiscal, names_what_it_could_not_read)
 {
     std::string const id = "NFe" + key;
@@ -361,6 +371,8 @@ TEST(documento_fiscal, names_what_it_could_not_read)
          ""},
         {"no vICMS", small_nfe("<vICMS>1.80</vICMS>"), false, 1, "element-name", "NFe/infNFe/total/ICMSTot/vICMS",
          nullptr, ""},
+        {"more items than the layout admits", small_nfe("<dest>", items(991) + "<dest>"), false, 2, "element-name",
+         "NFe/infNFe/det", "element-value", "991"},
     };
     for (reading_failure const& current : cases) {
         SCOPED_TRACE(current.name);
@@ -381,6 +393,9 @@ TEST(documento_fiscal, names_what_it_could_not_read)
             EXPECT_EQ(*s.top().find_argument(current.second_argument), current.second_value);
         }
     }
+    stack s;
+    documento_fiscal::from_xml(parse_element(small_nfe("<dest>", items(990) + "<dest>")), s);
+    EXPECT_FALSE(s.has_failed()) << "as many items as the layout admits: " << s.to_string();
 }
 
 TEST(documento_fiscal, reads_what_the_layouts_leave_open)
