@@ -58,27 +58,24 @@ std::string binary_encoder::encode(binary_encoding encoding, byte_array const& b
         }
         return text;
     }
-    text.reserve((bytes.size() + 2) / 3 * 4);
+    // Written in place, four characters for every three bytes.
+    text.resize((bytes.size() + 2) / 3 * 4);
+    std::size_t out = 0;
     std::size_t i = 0;
     for (; i + 3 <= bytes.size(); i += 3) {
         unsigned int const block = (unsigned{bytes[i]} << 16) | (unsigned{bytes[i + 1]} << 8) | bytes[i + 2];
-        text += base64_alphabet[(block >> 18) & 63];
-        text += base64_alphabet[(block >> 12) & 63];
-        text += base64_alphabet[(block >> 6) & 63];
-        text += base64_alphabet[block & 63];
+        text[out++] = base64_alphabet[(block >> 18) & 63];
+        text[out++] = base64_alphabet[(block >> 12) & 63];
+        text[out++] = base64_alphabet[(block >> 6) & 63];
+        text[out++] = base64_alphabet[block & 63];
     }
     std::size_t const rest = bytes.size() - i;
-    if (rest == 1) {
-        unsigned int const block = unsigned{bytes[i]} << 16;
-        text += base64_alphabet[(block >> 18) & 63];
-        text += base64_alphabet[(block >> 12) & 63];
-        text += "==";
-    } else if (rest == 2) {
-        unsigned int const block = (unsigned{bytes[i]} << 16) | (unsigned{bytes[i + 1]} << 8);
-        text += base64_alphabet[(block >> 18) & 63];
-        text += base64_alphabet[(block >> 12) & 63];
-        text += base64_alphabet[(block >> 6) & 63];
-        text += '=';
+    if (rest != 0) {
+        unsigned int const block = (unsigned{bytes[i]} << 16) | (rest == 2 ? unsigned{bytes[i + 1]} << 8 : 0U);
+        text[out++] = base64_alphabet[(block >> 18) & 63];
+        text[out++] = base64_alphabet[(block >> 12) & 63];
+        text[out++] = rest == 2 ? base64_alphabet[(block >> 6) & 63] : '=';
+        text[out++] = '=';
     }
     return text;
 }

@@ -4,6 +4,10 @@
 #include <velk/cryptography/cryptography_result_category.hpp>
 #include <velk/cryptography/detail/openssl.hpp>
 
+#include <openssl/err.h>
+
+#include <array>
+
 namespace velk::cryptography {
 inline namespace v3 {
 
@@ -12,14 +16,35 @@ namespace {
 struct algorithm_row {
     cryptographic_hash::algorithm value;
     char const* name;
+    char const* openssl_name;
     EVP_MD const* (*digest)();
 };
 
 constexpr algorithm_row algorithms[] = {
-    {cryptographic_hash::algorithm::sha1, "sha1", EVP_sha1},
-    {cryptographic_hash::algorithm::sha256, "sha256", EVP_sha256},
-    {cryptographic_hash::algorithm::sha512, "sha512", EVP_sha512},
+    {cryptographic_hash::algorithm::sha1, "sha1", "SHA1", EVP_sha1},
+    {cryptographic_hash::algorithm::sha256, "sha256", "SHA256", EVP_sha256},
+    {cryptographic_hash::algorithm::sha512, "sha512", "SHA512", EVP_sha512},
 };
+
+constexpr std::size_t algorithm_count = sizeof algorithms / sizeof algorithms[0];
+
+// The implementations, fetched from the default provider once for the
+// process: OpenSSL looks the implementation of EVP_sha1() and the like up
+// again on every use, under the locks of its global tables, which threads
+// signing side by side would share. Kept to the end of the process.
+std::array<EVP_MD const*, algorithm_count> const& fetched_digests()
+{
+    static std::array<EVP_MD const*, algorithm_count> const fetched = [] {
+        std::array<EVP_MD const*, algorithm_count> digests{};
+        for (std::size_t index = 0; index < algorithm_count; ++index) {
+            EVP_MD* found = EVP_MD_fetch(nullptr, algorithms[index].openssl_name, nullptr);
+            digests[index] = found != nullptr ? found : algorithms[index].digest();
+        }
+        ERR_clear_error();
+        return digests;
+    }();
+    return fetched;
+}
 
 algorithm_row const* find_algorithm(cryptographic_hash::algorithm value)
 {
@@ -38,7 +63,7 @@ namespace detail {
 EVP_MD const* message_digest(cryptographic_hash::algorithm algorithm)
 {
     algorithm_row const* row = find_algorithm(algorithm);
-    return row == nullptr ? nullptr : row->digest();
+    return row == nullptr ? nullptr : fetched_digests()[static_cast<std::size_t>(row - algorithms)];
 }
 
 }  // namespace detail
@@ -86,7 +111,8 @@ cryptographic_hash cryptographic_hash::from_algorithm(algorithm value, core::res
     hash.impl_ = std::make_unique<impl>();
     hash.impl_->value = value;
     hash.impl_->context.reset(EVP_MD_CTX_new());
-    if (hash.impl_->context == nullptr || EVP_DigestInit_ex(hash.impl_->context.get(), row->digest(), nullptr) != 1) {
+    if (hash.impl_->context == nullptr ||
+        EVP_DigestInit_ex(hash.impl_->context.get(), detail::message_digest(value), nullptr) != 1) {
         core::result::fresh<cryptography_result_category::hash_failed>(
             stack, row->name, detail::take_openssl_errors("EVP_DigestInit_ex"));
         return {};
@@ -124,9 +150,8 @@ core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
         core::result::fresh<cryptography_result_category::hash_failed>(stack, "", "objeto de hash vazio");
         return {};
     }
-    std::string const name = get_name(impl_->value);
     if (impl_->broken) {
-        core::result::fresh<cryptography_result_category::hash_failed>(stack, name,
+        core::result::fresh<cryptography_result_category::hash_failed>(stack, get_name(impl_->value),
                                                                        detail::take_openssl_errors("EVP_DigestUpdate"));
         return {};
     }
@@ -137,7 +162,7 @@ core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
     if (copy == nullptr || EVP_MD_CTX_copy_ex(copy.get(), impl_->context.get()) != 1 ||
         EVP_DigestFinal_ex(copy.get(), digest, &size) != 1) {
         core::result::fresh<cryptography_result_category::hash_failed>(
-            stack, name, detail::take_openssl_errors("EVP_DigestFinal_ex"));
+            stack, get_name(impl_->value), detail::take_openssl_errors("EVP_DigestFinal_ex"));
         return {};
     }
     core::byte_array bytes;

@@ -57,6 +57,23 @@ char const* unsupported_key_type(EVP_PKEY const* key)
 
 }  // namespace detail
 
+EVP_MD_CTX const* evp_private_key::impl::prepared_context(cryptographic_hash::algorithm algorithm,
+                                                          EVP_MD const* digest) const
+{
+    auto const index = static_cast<std::size_t>(algorithm);
+    if (index >= digest_count) {
+        return nullptr;
+    }
+    std::call_once(prepared_once_[index], [&] {
+        detail::openssl_ptr<EVP_MD_CTX> context(EVP_MD_CTX_new());
+        if (context != nullptr && EVP_DigestSignInit(context.get(), nullptr, digest, nullptr, handle.get()) == 1) {
+            prepared_[index] = std::move(context);
+        }
+        detail::take_openssl_errors("");
+    });
+    return prepared_[index].get();
+}
+
 evp_private_key::evp_private_key() = default;
 
 evp_private_key evp_private_key::from_byte_array(core::byte_array const& bytes, encoding format,
@@ -87,7 +104,7 @@ evp_private_key evp_private_key::from_byte_array(core::byte_array const& bytes, 
         return {};
     }
     evp_private_key key;
-    key.impl_ = std::make_shared<impl const>(impl{std::move(handle)});
+    key.impl_ = std::make_shared<impl const>(std::move(handle));
     return key;
 }
 
@@ -148,9 +165,12 @@ core::byte_array evp_private_key::sign(cryptographic_hash::algorithm algorithm, 
         return {};
     }
     detail::openssl_ptr<EVP_MD_CTX> context(EVP_MD_CTX_new());
+    EVP_MD_CTX const* prepared = impl_->prepared_context(algorithm, digest);
+    bool const ready = context != nullptr && ((prepared != nullptr && EVP_MD_CTX_copy_ex(context.get(), prepared) == 1) ||
+                                              EVP_DigestSignInit(context.get(), nullptr, digest, nullptr,
+                                                                 impl_->handle.get()) == 1);
     std::size_t size = 0;
-    if (context == nullptr || EVP_DigestSignInit(context.get(), nullptr, digest, nullptr, impl_->handle.get()) != 1 ||
-        EVP_DigestSign(context.get(), nullptr, &size, data.data(), data.size()) != 1) {
+    if (!ready || EVP_DigestSign(context.get(), nullptr, &size, data.data(), data.size()) != 1) {
         core::result::fresh<cryptography_result_category::signing_failed>(
             stack, detail::take_openssl_errors("EVP_DigestSign"));
         return {};

@@ -17,29 +17,45 @@ namespace {
 using detail::element_access;
 using contents_type = element_access::contents_type;
 
-bool declares(contents_type const& value, std::string_view prefix)
-{
-    for (auto const& declaration : value.namespaces) {
-        if (declaration.get_prefix() == prefix) {
-            return true;
-        }
-    }
-    return false;
-}
+std::vector<attribute> const no_attributes;
+std::vector<namespace_id> const no_namespaces;
+std::string const no_uri;
 
-// What the prefix names at `scope` as far as the element itself tells: its own
-// declaration, or its own namespace when it is written with that prefix.
-std::string const* resolve(contents_type const& scope, std::string_view prefix)
+namespace_id const* declaration_of(contents_type const& value, std::string_view prefix)
 {
-    for (auto const& declaration : scope.namespaces) {
-        if (declaration.get_prefix() == prefix) {
-            return &declaration.get_uri();
+    if (value.more != nullptr) {
+        for (auto const& declaration : value.more->namespaces) {
+            if (declaration.get_prefix() == prefix) {
+                return &declaration;
+            }
         }
-    }
-    if (scope.prefix() == prefix && !scope.namespace_uri.empty()) {
-        return &scope.namespace_uri;
     }
     return nullptr;
+}
+
+bool declares(contents_type const& value, std::string_view prefix)
+{
+    return declaration_of(value, prefix) != nullptr;
+}
+
+using shared_uri = std::shared_ptr<std::string const>;
+
+// What the prefix names at `scope` as far as the element itself tells: its own
+// declaration, or its own namespace when it is written with that prefix. The
+// element's own namespace is shared when it is the same text.
+shared_uri resolve(contents_type const& scope, std::string_view prefix)
+{
+    bool const own_prefix = scope.prefix() == prefix && scope.namespace_uri != nullptr;
+    if (namespace_id const* declaration = declaration_of(scope, prefix)) {
+        if (declaration->get_uri().empty()) {
+            return nullptr;
+        }
+        if (own_prefix && *scope.namespace_uri == declaration->get_uri()) {
+            return scope.namespace_uri;
+        }
+        return std::make_shared<std::string const>(declaration->get_uri());
+    }
+    return own_prefix ? scope.namespace_uri : nullptr;
 }
 
 // Each element gets its namespace at most once, so building a tree from the
@@ -47,18 +63,18 @@ std::string const* resolve(contents_type const& scope, std::string_view prefix)
 void adopt(contents_type const& parent, element& child)
 {
     contents_type* contents = element_access::contents(child);
-    if (contents == nullptr || !contents->namespace_uri.empty()) {
+    if (contents == nullptr || contents->namespace_uri != nullptr) {
         return;
     }
     std::string_view const prefix = contents->prefix();
     if (declares(*contents, prefix)) {
         return;
     }
-    std::string const* uri = resolve(parent, prefix);
-    if (uri == nullptr || uri->empty()) {
+    shared_uri uri = resolve(parent, prefix);
+    if (uri == nullptr) {
         return;
     }
-    contents->namespace_uri = *uri;
+    contents->namespace_uri = std::move(uri);
     for (node& grandchild : contents->children) {
         if (element* value = grandchild.as_element()) {
             adopt(*contents, *value);
@@ -109,15 +125,46 @@ auto find_child_in(Nodes& children, std::string const& name) -> decltype(childre
 
 }  // namespace
 
+element::impl::impl(impl const& other)
+    : qualified_name(other.qualified_name),
+      prefixed_local_name(other.prefixed_local_name ? std::make_unique<std::string>(*other.prefixed_local_name)
+                                                    : nullptr),
+      namespace_uri(other.namespace_uri),
+      more(other.more ? std::make_unique<extras>(*other.more) : nullptr),
+      children(other.children)
+{
+}
+
 void element::impl::set_name(std::string name)
 {
-    local_name = detail::local_part_of(name);
+    std::string_view const local = detail::local_part_of(name);
+    if (local.size() == name.size()) {
+        prefixed_local_name.reset();
+    } else {
+        prefixed_local_name = std::make_unique<std::string>(local);
+    }
     qualified_name = std::move(name);
 }
 
 std::string_view element::impl::prefix() const
 {
-    return detail::prefix_of(qualified_name);
+    if (prefixed_local_name == nullptr) {
+        return {};
+    }
+    return std::string_view(qualified_name).substr(0, qualified_name.size() - prefixed_local_name->size() - 1);
+}
+
+std::string const& element::impl::uri() const
+{
+    return namespace_uri == nullptr ? no_uri : *namespace_uri;
+}
+
+element::impl::extras& element::impl::more_or_new()
+{
+    if (more == nullptr) {
+        more = std::make_unique<extras>();
+    }
+    return *more;
 }
 
 element::element() : impl_(std::make_unique<impl>()) {}
@@ -165,13 +212,13 @@ bool element::append_attribute(attribute const& value, core::result::stack& stac
         core::result::fresh<xml_result_category::invalid_name>(stack, name);
         return false;
     }
-    for (auto const& existing : impl_->attributes) {
+    for (auto const& existing : get_attributes()) {
         if (existing.get_name() == name) {
             core::result::fresh<xml_result_category::duplicate_attribute>(stack, name);
             return false;
         }
     }
-    impl_->attributes.push_back(value);
+    impl_->more_or_new().attributes.push_back(value);
     return true;
 }
 
@@ -192,9 +239,9 @@ bool element::append_namespace(namespace_id const& value, core::result::stack& s
         core::result::fresh<xml_result_category::duplicate_prefix>(stack, prefix);
         return false;
     }
-    impl_->namespaces.push_back(value);
+    impl_->more_or_new().namespaces.push_back(value);
     if (impl_->prefix() == prefix) {
-        impl_->namespace_uri = value.get_uri();
+        impl_->namespace_uri = value.get_uri().empty() ? nullptr : std::make_shared<std::string const>(value.get_uri());
     }
     adopt_all(*impl_);
     return true;
@@ -249,12 +296,12 @@ void element::append_node(node&& child)
 
 attribute* element::find_attribute(std::string const& namespace_uri, std::string const& name)
 {
-    return find_in(impl_->attributes, namespace_uri, name);
+    return impl_->more == nullptr ? nullptr : find_in(impl_->more->attributes, namespace_uri, name);
 }
 
 attribute const* element::find_attribute(std::string const& namespace_uri, std::string const& name) const
 {
-    return find_in(impl_->attributes, namespace_uri, name);
+    return impl_->more == nullptr ? nullptr : find_in(std::as_const(impl_->more->attributes), namespace_uri, name);
 }
 
 std::string element::get_contents() const
@@ -278,7 +325,7 @@ void element::set_contents(std::string const& contents)
 
 std::string const& element::get_name() const
 {
-    return impl_->local_name;
+    return impl_->local_name();
 }
 
 std::string const& element::get_qualified_name() const
@@ -293,23 +340,23 @@ std::string element::get_prefix() const
 
 std::string const& element::get_namespace_uri() const
 {
-    return impl_->namespace_uri;
+    return impl_->uri();
 }
 
 void element::set_namespace_uri(std::string const& uri)
 {
-    impl_->namespace_uri = uri;
+    impl_->namespace_uri = uri.empty() ? nullptr : std::make_shared<std::string const>(uri);
     adopt_all(*impl_);
 }
 
 std::vector<attribute> const& element::get_attributes() const
 {
-    return impl_->attributes;
+    return impl_->more == nullptr ? no_attributes : impl_->more->attributes;
 }
 
 std::vector<namespace_id> const& element::get_namespaces() const
 {
-    return impl_->namespaces;
+    return impl_->more == nullptr ? no_namespaces : impl_->more->namespaces;
 }
 
 mutable_node_range element::get_node_range() &

@@ -13,8 +13,11 @@
 #include <openssl/pkcs12.h>
 #include <openssl/x509.h>
 
+#include <array>
 #include <memory>
+#include <mutex>
 #include <string>
+#include <utility>
 
 namespace velk::cryptography {
 inline namespace v3 {
@@ -58,7 +61,22 @@ struct x509_certificate::impl {
 };
 
 struct evp_private_key::impl {
+    explicit impl(detail::openssl_ptr<EVP_PKEY> key) : handle(std::move(key)) {}
+
+    // A signing context of each digest, set up at the key's first signature
+    // with it and copied for every signature after: setting one up looks the
+    // algorithms up under the global locks of OpenSSL's tables, which
+    // threads signing side by side would share; a copy takes no lock. Null
+    // when it could not be set up (each signature then sets up its own and
+    // reports what fails).
+    EVP_MD_CTX const* prepared_context(cryptographic_hash::algorithm algorithm, EVP_MD const* digest) const;
+
     detail::openssl_ptr<EVP_PKEY> handle;
+
+private:
+    static constexpr std::size_t digest_count = 3;
+    mutable std::array<std::once_flag, digest_count> prepared_once_;
+    mutable std::array<detail::openssl_ptr<EVP_MD_CTX>, digest_count> prepared_;
 };
 
 }  // namespace v3

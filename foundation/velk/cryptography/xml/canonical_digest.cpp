@@ -40,8 +40,8 @@ core::byte_array canonical_digest(velk::xml::element const& root, velk::xml::ele
         core::result::fresh<cryptography_result_category::reference_not_found>(stack, std::string());
         return {};
     }
-    detail::canonical_writer writer;
-    return detail::digest_subtree(ancestors, target, nullptr, false, algorithm, writer, stack);
+    detail::canonical_serializer serializer;
+    return detail::digest_subtree(ancestors, target, nullptr, false, algorithm, serializer, stack);
 }
 
 }  // namespace xml

@@ -3,9 +3,8 @@
 #include <velk/core/binary_encoder.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/cryptography/cryptography_result_category.hpp>
-#include <velk/cryptography/xml/detail/canonical_writer.hpp>
+#include <velk/cryptography/xml/detail/canonical_serializer.hpp>
 #include <velk/cryptography/xml/detail/identifiers.hpp>
-#include <velk/cryptography/xml/detail/libxml_subtree.hpp>
 #include <velk/cryptography/xml/detail/subtree_digest.hpp>
 #include <velk/cryptography/xml/detail/namespace_scope.hpp>
 #include <velk/xml/node.hpp>
@@ -139,9 +138,10 @@ struct located {
 void collect_by_id(element const& current, std::string_view id, std::vector<element const*>& path,
                    std::vector<located>& found)
 {
-    velk::xml::attribute const* attribute = current.find_attribute("", "Id");
-    if (attribute != nullptr && attribute->get_value() == id) {
-        found.push_back({&current, path});
+    for (velk::xml::attribute const& attribute : current.get_attributes()) {
+        if (attribute.get_name() == "Id" && attribute.get_value() == id) {
+            found.push_back({&current, path});
+        }
     }
     path.push_back(&current);
     for (auto const& child : current.get_node_range()) {
@@ -181,7 +181,7 @@ bool is_within(located const& place, element const* candidate)
 // Canonical XML 1.0 of the referenced element in its context, hashed. With
 // the enveloped-signature transform the Signature being computed is left out;
 // a reference into that Signature digests nothing.
-bool digest_reference(element const& root, element const& signature, detail::canonical_writer& writer,
+bool digest_reference(element const& root, element const& signature, detail::canonical_serializer& serializer,
                       reference_work& work, core::result::stack& stack)
 {
     located target;
@@ -198,7 +198,7 @@ bool digest_reference(element const& root, element const& signature, detail::can
         digest = hash.finish(stack);
     } else {
         digest = detail::digest_subtree(target.ancestors, *target.target, work.enveloped ? &signature : nullptr,
-                                        work.with_comments, work.algorithm, writer, stack);
+                                        work.with_comments, work.algorithm, serializer, stack);
     }
     if (stack.has_failed()) {
         return false;
@@ -300,11 +300,11 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
         core::result::fresh<category::incomplete_template>(stack, "SignatureValue");
         return false;
     }
-    detail::canonical_writer writer;
+    detail::canonical_serializer serializer;
     std::vector<reference_work> references(reference_elements.size());
     for (std::size_t i = 0; i < references.size(); ++i) {
         if (!read_reference(*reference_elements[i], references[i], stack) ||
-            !digest_reference(elemento_pai, *signature, writer, references[i], stack)) {
+            !digest_reference(elemento_pai, *signature, serializer, references[i], stack)) {
             return false;
         }
     }
@@ -312,18 +312,16 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
     // SignedInfo as it will stand, with the digests, canonicalised where it
     // stands.
     std::vector<element*> const digest_places = digest_values(*signed_info);
-    std::vector<detail::libxml_subtree::replacement> filled;
+    std::vector<detail::canonical_serializer::replacement> filled;
     for (std::size_t i = 0; i < references.size(); ++i) {
         filled.push_back({digest_places[i], &references[i].value});
     }
     core::byte_array canonical_signed_info;
     canonical_signed_info.reserve(1024);
-    auto const collect = [&canonical_signed_info](unsigned char const* data, std::size_t size) {
-        canonical_signed_info.append(data, data + size);
-    };
-    detail::libxml_subtree const signed_info_tree =
-        detail::libxml_subtree::build(signature_path, *signed_info, nullptr, filled, stack);
-    if (signed_info_tree.get() == nullptr || !writer.write(signed_info_tree.get(), *with_comments, collect, stack)) {
+    auto const collect = [&canonical_signed_info](std::string_view piece) { canonical_signed_info.append(piece); };
+    detail::canonical_serializer::subtree const signed_info_place{signature_path, *signed_info, nullptr, filled,
+                                                                  *with_comments};
+    if (!serializer.write(signed_info_place, collect, stack)) {
         return false;
     }
     core::byte_array const signature_bytes = key.sign(*signature_hash, canonical_signed_info, stack);

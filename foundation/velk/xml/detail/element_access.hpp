@@ -11,20 +11,38 @@
 namespace velk::xml {
 inline namespace v3 {
 
-// What an element holds. The local name is kept beside the qualified one
-// because get_name() hands out a reference to it.
+// What an element holds, kept small: most elements of a document are a name,
+// a namespace and one text.
 struct element::impl {
+    // Attributes and declarations, which few elements have.
+    struct extras {
+        std::vector<attribute> attributes;
+        std::vector<namespace_id> namespaces;
+    };
+
     std::string qualified_name;
-    std::string local_name;
-    std::string namespace_uri;
-    std::vector<attribute> attributes;
-    std::vector<namespace_id> namespaces;
+    // The local name of a prefixed name, kept because get_name() hands out a
+    // reference to it; null when the name has no prefix and is its own local
+    // name.
+    std::unique_ptr<std::string> prefixed_local_name;
+    // Null for none. Immutable, and shared by the elements that take it from
+    // one another: a tree holds one copy of its namespace, not one per
+    // element.
+    std::shared_ptr<std::string const> namespace_uri;
+    std::unique_ptr<extras> more;
     std::list<node> children;
+
+    impl() = default;
+    impl(impl const& other);
+    impl& operator=(impl const&) = delete;
 
     // Sets both names from the name as written ("soap:Body").
     void set_name(std::string name);
     // The prefix as a view into the qualified name; empty when none.
     std::string_view prefix() const;
+    std::string const& local_name() const { return prefixed_local_name ? *prefixed_local_name : qualified_name; }
+    std::string const& uri() const;
+    extras& more_or_new();
 };
 
 namespace detail {

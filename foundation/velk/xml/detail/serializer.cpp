@@ -69,8 +69,16 @@ private:
     core::result::stack& stack_;
     // The first declared URI that no parser would read back.
     std::optional<std::string_view> bad_uri_;
-    // Prefix and URI of each declaration in scope, innermost last.
-    std::vector<std::pair<std::string_view, std::string_view>> scope_;
+    // Each declaration in scope, innermost last.
+    struct declaration {
+        std::string_view prefix;
+        std::string_view uri;
+        // A text of the tree found equal to uri once: the elements of a tree
+        // share their namespace's text, so the next comparison is of
+        // addresses only.
+        char const* same_text = nullptr;
+    };
+    std::vector<declaration> scope_;
 };
 
 void writer::append_escaped(std::string_view text, escape_table const& table)
@@ -116,7 +124,7 @@ void writer::write_declaration(std::string_view prefix, std::string_view uri)
     append("=\"");
     append_escaped(uri, attribute_escapes);
     append('"');
-    scope_.emplace_back(prefix, uri);
+    scope_.push_back({prefix, uri});
 }
 
 void writer::declare_if_needed(std::size_t mark, std::string_view prefix, std::string const& uri)
@@ -125,9 +133,14 @@ void writer::declare_if_needed(std::size_t mark, std::string_view prefix, std::s
         return;
     }
     for (std::size_t index = scope_.size(); index-- > 0;) {
-        if (scope_[index].first == prefix) {
+        declaration& found = scope_[index];
+        if (found.prefix == prefix) {
             // A declaration on the element itself wins even when it differs.
-            if (index >= mark || scope_[index].second == uri) {
+            if (index >= mark || found.same_text == uri.data()) {
+                return;
+            }
+            if (found.uri == uri) {
+                found.same_text = uri.data();
                 return;
             }
             break;

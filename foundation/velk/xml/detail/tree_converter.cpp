@@ -7,6 +7,8 @@
 
 #include <memory>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -45,29 +47,51 @@ std::string attribute_value(xmlAttr const& value)
     return joined;
 }
 
-element convert_element(xmlNode const& source)
+// The namespaces of the elements read, one shared text per declaration.
+class shared_uris {
+public:
+    std::shared_ptr<std::string const> of(xmlNs const* ns)
+    {
+        for (auto const& [declaration, uri] : known_) {
+            if (declaration == ns) {
+                return uri;
+            }
+        }
+        std::string text = namespace_uris::as_declared(ns->href);
+        auto uri = text.empty() ? nullptr : std::make_shared<std::string const>(std::move(text));
+        known_.emplace_back(ns, uri);
+        return uri;
+    }
+
+private:
+    std::vector<std::pair<xmlNs const*, std::shared_ptr<std::string const>>> known_;
+};
+
+element convert_element(xmlNode const& source, shared_uris& uris)
 {
     auto contents = std::make_unique<element_access::contents_type>();
-    contents->local_name = chars(source.name);
-    contents->qualified_name = qualified_name(source.ns, source.name);
+    contents->set_name(qualified_name(source.ns, source.name));
     if (source.ns != nullptr) {
-        contents->namespace_uri = namespace_uris::as_declared(source.ns->href);
+        contents->namespace_uri = uris.of(source.ns);
     }
-    for (xmlNs const* declaration = source.nsDef; declaration != nullptr; declaration = declaration->next) {
-        contents->namespaces.emplace_back(chars(declaration->prefix), namespace_uris::as_declared(declaration->href));
-    }
-    for (xmlAttr const* property = source.properties; property != nullptr; property = property->next) {
-        attribute& added =
-            contents->attributes.emplace_back(qualified_name(property->ns, property->name), attribute_value(*property));
-        if (property->ns != nullptr) {
-            added.set_namespace_uri(namespace_uris::as_declared(property->ns->href));
+    if (source.nsDef != nullptr || source.properties != nullptr) {
+        auto& more = contents->more_or_new();
+        for (xmlNs const* declaration = source.nsDef; declaration != nullptr; declaration = declaration->next) {
+            more.namespaces.emplace_back(chars(declaration->prefix), namespace_uris::as_declared(declaration->href));
+        }
+        for (xmlAttr const* property = source.properties; property != nullptr; property = property->next) {
+            attribute& added =
+                more.attributes.emplace_back(qualified_name(property->ns, property->name), attribute_value(*property));
+            if (property->ns != nullptr) {
+                added.set_namespace_uri(namespace_uris::as_declared(property->ns->href));
+            }
         }
     }
     auto& children = contents->children;
     for (xmlNode const* child = source.children; child != nullptr; child = child->next) {
         switch (child->type) {
         case XML_ELEMENT_NODE:
-            children.emplace_back(convert_element(*child));
+            children.emplace_back(convert_element(*child, uris));
             break;
         case XML_TEXT_NODE:
             children.emplace_back(text(chars(child->content)));
@@ -93,7 +117,8 @@ element convert_element(xmlNode const& source)
 
 element tree_converter::convert(_xmlNode const& root)
 {
-    return convert_element(root);
+    shared_uris uris;
+    return convert_element(root, uris);
 }
 
 }  // namespace detail

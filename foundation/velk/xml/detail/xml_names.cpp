@@ -122,6 +122,24 @@ bool is_valid_qualified_name(std::string_view name)
 bool is_valid_qualified_name(std::string_view name, std::string_view& prefix)
 {
     prefix = {};
+    // Nearly every name is a few ASCII letters without prefix: decided by the
+    // table alone, in one pass.
+    if (!name.empty()) {
+        auto const first = static_cast<unsigned char>(name[0]);
+        if (first < 0x80 && ascii_classes[first] == anywhere) {
+            std::size_t index = 1;
+            while (index < name.size()) {
+                auto const c = static_cast<unsigned char>(name[index]);
+                if (c >= 0x80 || ascii_classes[c] == not_in_name) {
+                    break;
+                }
+                ++index;
+            }
+            if (index == name.size()) {
+                return true;
+            }
+        }
+    }
     bool at_start = true;
     for (std::size_t index = 0; index < name.size();) {
         if (name[index] == ':' && !at_start && prefix.empty()) {

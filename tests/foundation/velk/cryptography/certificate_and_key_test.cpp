@@ -11,8 +11,11 @@
 #include <openssl/evp.h>
 #include <openssl/x509.h>
 
+#include <atomic>
 #include <ctime>
 #include <string>
+#include <thread>
+#include <vector>
 
 namespace velk::cryptography {
 namespace {
@@ -151,6 +154,45 @@ TEST(evp_private_key, signs_so_that_the_certificate_verifies)
         EVP_MD_CTX_free(context);
     }
     EVP_PKEY_free(public_key);
+}
+
+// The signing context a key prepares once is copied by every signature, from
+// any thread: threads signing side by side with one key each get the one
+// signature of their data, and a key copied keeps signing as its source.
+TEST(evp_private_key, signs_from_several_threads_at_once)
+{
+    evp_private_key const key = taxpayer_key();
+    constexpr int threads = 4;
+    constexpr int rounds = 25;
+    std::vector<core::byte_array> expected;
+    for (int thread = 0; thread < threads; ++thread) {
+        core::result::stack stack;
+        evp_private_key const separate = evp_private_key::from_byte_array(
+            key.to_byte_array(encoding::der, stack), encoding::der, stack);
+        expected.push_back(separate.sign(cryptographic_hash::algorithm::sha1,
+                                         core::byte_array("documento " + std::to_string(thread)), stack));
+        ASSERT_FALSE(stack.has_failed()) << stack.to_string();
+    }
+    std::atomic<int> mismatches{0};
+    std::vector<std::thread> workers;
+    for (int thread = 0; thread < threads; ++thread) {
+        workers.emplace_back([&, thread] {
+            evp_private_key const copy = key;
+            core::byte_array const data("documento " + std::to_string(thread));
+            for (int round = 0; round < rounds; ++round) {
+                core::result::stack stack;
+                evp_private_key const& signer = round % 2 == 0 ? key : copy;
+                if (signer.sign(cryptographic_hash::algorithm::sha1, data, stack) != expected[thread] ||
+                    stack.has_failed()) {
+                    ++mismatches;
+                }
+            }
+        });
+    }
+    for (std::thread& worker : workers) {
+        worker.join();
+    }
+    EXPECT_EQ(mismatches.load(), 0);
 }
 
 TEST(evp_private_key, refuses_unusable_keys_without_asking_for_a_passphrase)

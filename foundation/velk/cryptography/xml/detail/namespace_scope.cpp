@@ -49,9 +49,14 @@ void namespace_scope::declare_if_needed(std::size_t mark, std::string_view prefi
         return;
     }
     for (std::size_t index = entries_.size(); index-- > 0;) {
-        if (entries_[index].prefix == prefix) {
+        entry const& found = entries_[index];
+        if (found.prefix == prefix) {
             // A declaration on the element itself wins even when it differs.
-            if (index >= mark || entries_[index].uri == uri) {
+            if (index >= mark || found.same_text == uri.data()) {
+                return;
+            }
+            if (found.uri == uri) {
+                found.same_text = uri.data();
                 return;
             }
             break;
@@ -62,7 +67,12 @@ void namespace_scope::declare_if_needed(std::size_t mark, std::string_view prefi
 
 namespace_scope::entry const* namespace_scope::find(std::string_view prefix) const
 {
-    for (std::size_t index = entries_.size(); index-- > 0;) {
+    return find_below(entries_.size(), prefix);
+}
+
+namespace_scope::entry const* namespace_scope::find_below(std::size_t mark, std::string_view prefix) const
+{
+    for (std::size_t index = mark; index-- > 0;) {
         if (entries_[index].prefix == prefix) {
             return &entries_[index];
         }

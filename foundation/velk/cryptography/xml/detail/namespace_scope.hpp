@@ -1,14 +1,12 @@
 #pragma once
 
 // Internal: the namespace declarations in scope while a tree of velk::xml is
-// turned into libxml2 nodes, by the rules document::save writes them with: an
-// element's own declarations first, then its namespace and those of its
-// prefixed attributes wherever the scope does not give them already. The
-// libxml2 tree so built is the one libxml2 would parse from the saved text.
+// walked, by the rules document::save writes them with: an element's own
+// declarations first, then its namespace and those of its prefixed attributes
+// wherever the scope does not give them already. They are the declarations a
+// parser finds in the saved text.
 
 #include <velk/xml/element.hpp>
-
-#include <libxml/tree.h>
 
 #include <cstddef>
 #include <span>
@@ -22,13 +20,14 @@ namespace detail {
 
 class namespace_scope {
 public:
-    // One declaration. The views point into the tree being read; `ns` is the
-    // libxml2 declaration, which the builder makes (null for an element that
-    // is only looked at).
+    // One declaration; the views point into the tree being read.
     struct entry {
         std::string_view prefix;
         std::string_view uri;
-        xmlNs* ns = nullptr;
+        // A text of the tree found equal to uri once: the elements of a tree
+        // share their namespace's text, so the next comparison is of
+        // addresses only.
+        mutable char const* same_text = nullptr;
     };
 
     std::size_t size() const { return entries_.size(); }
@@ -42,6 +41,9 @@ public:
 
     // The innermost declaration of the prefix, or null.
     entry const* find(std::string_view prefix) const;
+    // The same among the entries before `mark`: what an element's parent has
+    // in scope, the element's own entries starting at mark.
+    entry const* find_below(std::size_t mark, std::string_view prefix) const;
 
     // What is in scope: the innermost declaration of each prefix, leaving out
     // a default namespace that is undeclared (xmlns="").

@@ -6,7 +6,7 @@
 #include <velk/core/byte_array.hpp>
 #include <velk/core/result/stack.hpp>
 #include <velk/cryptography/cryptographic_hash.hpp>
-#include <velk/cryptography/xml/detail/canonical_writer.hpp>
+#include <velk/cryptography/xml/detail/canonical_serializer.hpp>
 #include <velk/xml/element.hpp>
 
 #include <span>
@@ -21,7 +21,7 @@ namespace detail {
 // and the stack failed on failure.
 core::byte_array digest_subtree(std::span<velk::xml::element const* const> ancestors, velk::xml::element const& apex,
                                 velk::xml::element const* excluded, bool with_comments,
-                                cryptographic_hash::algorithm algorithm, canonical_writer& writer,
+                                cryptographic_hash::algorithm algorithm, canonical_serializer& serializer,
                                 core::result::stack& stack);
 
 }  // namespace detail

@@ -7,6 +7,8 @@
 #include "../documento_verificado_teste.hpp"
 
 #include <support/corpus_notas.hpp>
+#include <support/forma_canonica.hpp>
+#include <support/test_certificates.hpp>
 #include <support/xml_text.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
@@ -31,6 +33,33 @@ TEST_P(corpus, signed_document_is_valid_for_the_schema_and_the_verifier)
     documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
     ASSERT_FALSE(report.has_failed()) << report.to_string();
     velk::test::assinado_e_verificado(documento, "nfe_v4.00.xsd");
+}
+
+// What the signature digests, the canonical infNFe and SignedInfo, written by
+// the library straight from the tree, is what libxml2 writes from the saved
+// document; and so is the whole NFe without its signature.
+TEST_P(corpus, canonical_forms_are_libxml2s)
+{
+    stack report;
+    documento_fiscal documento = documento_fiscal::from_nota_fiscal(GetParam().criar(), versao::versao_4_00, report);
+    documento.assinar(velk::test::taxpayer_pkcs12(), report);
+    ASSERT_FALSE(report.has_failed()) << report.to_string();
+    velk::xml::element const nfe = documento.get_xml();
+    velk::xml::element const* assinatura = nfe.find_child("Signature");
+    ASSERT_NE(assinatura, nullptr);
+    velk::test::forma_canonica_libxml2 const referencia(nfe);
+    struct parte {
+        velk::xml::element const* alvo;
+        velk::xml::element const* excluido;
+    };
+    for (parte const& atual : {parte{nfe.find_child("infNFe"), nullptr},
+                               parte{assinatura->find_child("SignedInfo"), nullptr}, parte{&nfe, assinatura}}) {
+        ASSERT_NE(atual.alvo, nullptr);
+        SCOPED_TRACE(atual.alvo->get_name());
+        std::string const esperada = referencia.de(*atual.alvo, atual.excluido, false);
+        ASSERT_EQ(esperada.rfind("falha", 0), std::string::npos) << esperada;
+        EXPECT_EQ(velk::test::forma_canonica_propria(nfe, *atual.alvo, atual.excluido, false), esperada);
+    }
 }
 
 // The manufacturer's CNPJ, which only other sources than the model fill,

@@ -17,6 +17,8 @@ using google::protobuf::Descriptor;
 using google::protobuf::FieldDescriptor;
 using google::protobuf::Message;
 using google::protobuf::Reflection;
+using campo_lido = leitor_json::campo;
+using tipo_lido = leitor_json::tipo;
 
 constexpr std::array<std::string_view, 9> embrulhos = {
     "google.protobuf.DoubleValue", "google.protobuf.FloatValue",  "google.protobuf.Int64Value",
@@ -24,9 +26,30 @@ constexpr std::array<std::string_view, 9> embrulhos = {
     "google.protobuf.BoolValue",   "google.protobuf.StringValue", "google.protobuf.BytesValue",
 };
 
+// The bytes the loops over whitespace and over the inside of a string stop
+// at, by table: most of a note's text is indentation and plain ASCII.
+enum classe_byte : unsigned char { espaco_em_branco = 1, atencao_no_texto = 2 };
+
+constexpr std::array<unsigned char, 256> fazer_classes()
+{
+    std::array<unsigned char, 256> classes{};
+    for (unsigned char c : {' ', '\t', '\n', '\r', '\v', '\f'}) {
+        classes[c] = espaco_em_branco;
+    }
+    classes['"'] = atencao_no_texto;
+    classes['\''] = atencao_no_texto;
+    classes['\\'] = atencao_no_texto;
+    for (int c = 0x80; c < 0x100; ++c) {
+        classes[static_cast<std::size_t>(c)] = atencao_no_texto;
+    }
+    return classes;
+}
+
+constexpr std::array<unsigned char, 256> classes = fazer_classes();
+
 bool espaco(char c)
 {
-    return c == ' ' || c == '\t' || c == '\n' || c == '\r' || c == '\v' || c == '\f';
+    return classes[static_cast<unsigned char>(c)] == espaco_em_branco;
 }
 
 bool letra(char c)
@@ -156,8 +179,9 @@ bool excede_para_cima(std::string_view texto)
 
 class leitura {
 public:
-    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, std::string_view texto)
-        : tipos_(tipos), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
+    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, leitor_json::fabrica& fabrica,
+            std::string_view texto)
+        : tipos_(tipos), fabrica_(fabrica), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
     {
     }
 
@@ -167,7 +191,15 @@ public:
         if (p_ == fim_ || *p_ != '{') {
             return falha("the root element must be a JSON object");
         }
-        if (!objeto(mensagem, 1)) {
+        Descriptor const* const descritor = mensagem.GetDescriptor();
+        auto const achado = tipos_.find(descritor);
+        if (achado == tipos_.end()) {
+            return falha(std::string("no JSON form known for ") + std::string(descritor->full_name()));
+        }
+        // The messages of a generated type share their type's reflection;
+        // another kind of message is asked for its own.
+        reflexao_do_tipo_ = achado->second.reflexao != nullptr && achado->second.reflexao == mensagem.GetReflection();
+        if (!objeto(mensagem, achado->second, 1)) {
             return false;
         }
         pular_espaco();
@@ -188,9 +220,14 @@ private:
         return false;
     }
 
-    bool falha_campo(FieldDescriptor const& campo, std::string_view texto)
+    bool falha_campo(campo_lido const& campo, std::string_view texto)
     {
-        return falha(std::string(campo.name()) + ": " + std::string(texto));
+        return falha(std::string(campo.descritor->name()) + ": " + std::string(texto));
+    }
+
+    Reflection const& reflexao(Message& mensagem, tipo_lido const& tipo) const
+    {
+        return reflexao_do_tipo_ ? *tipo.reflexao : *mensagem.GetReflection();
     }
 
     void pular_espaco()
@@ -214,6 +251,14 @@ private:
         bool copiado = false;
         saida.clear();
         while (true) {
+            // A run that needs nothing but copying when there was an escape.
+            char const* const corrida = p_;
+            while (p_ != fim_ && classes[static_cast<unsigned char>(*p_)] != atencao_no_texto) {
+                ++p_;
+            }
+            if (copiado) {
+                saida.append(corrida, p_);
+            }
             if (p_ == fim_) {
                 return falha("closing quote expected in string");
             }
@@ -339,17 +384,14 @@ private:
         return true;
     }
 
-    bool objeto(Message& mensagem, int profundidade)
+    bool objeto(Message& mensagem, tipo_lido const& tipo, int profundidade)
     {
         if (profundidade > leitor_json::profundidade_maxima) {
             return falha("message too deep");
         }
-        Descriptor const* const descritor = mensagem.GetDescriptor();
-        auto const achado = tipos_.find(descritor);
-        if (achado == tipos_.end() || achado->second.desconhecido) {
-            return falha(std::string("no JSON form known for ") + std::string(descritor->full_name()));
+        if (tipo.desconhecido) {
+            return falha(std::string("no JSON form known for ") + std::string(mensagem.GetDescriptor()->full_name()));
         }
-        leitor_json::tipo const& tipo = achado->second;
         ++p_;
         std::uint64_t oneofs = 0;
         std::string nome;
@@ -373,7 +415,7 @@ private:
             if (campo == tipo.campos.end()) {
                 return falha(std::string(chave_lida) + ": cannot find field");
             }
-            if (!valor_do_campo(mensagem, *campo->second, oneofs, profundidade)) {
+            if (!valor_do_campo(mensagem, tipo, *campo->second, oneofs, profundidade)) {
                 return false;
             }
             pular_espaco();
@@ -385,7 +427,8 @@ private:
         }
     }
 
-    bool valor_do_campo(Message& mensagem, FieldDescriptor const& campo, std::uint64_t& oneofs, int profundidade)
+    bool valor_do_campo(Message& mensagem, tipo_lido const& tipo, campo_lido const& campo, std::uint64_t& oneofs,
+                        int profundidade)
     {
         if (p_ == fim_) {
             return falha("expected a value");
@@ -395,62 +438,63 @@ private:
             return true;
         }
         if (*p_ == '[') {
-            if (!campo.is_repeated()) {
+            if (!campo.repetido) {
                 return falha_campo(campo, "field is not repeated, cannot start a list");
             }
-            return lista(mensagem, campo, profundidade);
+            return lista(mensagem, tipo, campo, profundidade);
         }
-        if (campo.is_repeated()) {
-            return elemento(mensagem, campo, profundidade);
+        if (campo.repetido) {
+            return elemento(mensagem, tipo, campo, profundidade);
         }
-        if (auto const* const oneof = campo.containing_oneof(); oneof != nullptr) {
-            std::uint64_t const bit = std::uint64_t{1} << oneof->index();
+        if (campo.oneof >= 0) {
+            std::uint64_t const bit = std::uint64_t{1} << campo.oneof;
             if ((oneofs & bit) != 0) {
-                return falha_campo(campo, std::string("oneof '") + std::string(oneof->name()) + "' is already set");
+                return falha_campo(campo, std::string("oneof '") +
+                                              std::string(campo.descritor->containing_oneof()->name()) +
+                                              "' is already set");
             }
             oneofs |= bit;
         }
-        if (campo.cpp_type() == FieldDescriptor::CPPTYPE_MESSAGE) {
-            return mensagem_do_valor(*mensagem.GetReflection()->MutableMessage(&mensagem, &campo), campo,
+        if (campo.tipo_cpp == FieldDescriptor::CPPTYPE_MESSAGE) {
+            return mensagem_do_valor(*reflexao(mensagem, tipo).MutableMessage(&mensagem, campo.descritor), campo,
                                      profundidade);
         }
-        return escalar(mensagem, campo);
+        return escalar(mensagem, reflexao(mensagem, tipo), campo);
     }
 
     // A message's value: an object, or the bare value of a wrapper.
-    bool mensagem_do_valor(Message& filha, FieldDescriptor const& campo, int profundidade)
+    bool mensagem_do_valor(Message& filha, campo_lido const& campo, int profundidade)
     {
+        tipo_lido const& tipo = *campo.mensagem;
         if (*p_ == '{') {
-            return objeto(filha, profundidade + 1);
+            return objeto(filha, tipo, profundidade + 1);
         }
-        auto const achado = tipos_.find(filha.GetDescriptor());
-        if (achado == tipos_.end() || !achado->second.embrulho) {
+        if (!tipo.embrulho) {
             return falha_campo(campo, "a message is written as an object");
         }
-        return escalar(filha, *filha.GetDescriptor()->field(0));
+        return escalar(filha, reflexao(filha, tipo), tipo.lista.front());
     }
 
     // One element of a repeated field.
-    bool elemento(Message& mensagem, FieldDescriptor const& campo, int profundidade)
+    bool elemento(Message& mensagem, tipo_lido const& tipo, campo_lido const& campo, int profundidade)
     {
-        if (campo.cpp_type() == FieldDescriptor::CPPTYPE_MESSAGE) {
-            if (*p_ != '{') {
-                auto const achado = tipos_.find(campo.message_type());
-                if (achado == tipos_.end() || !achado->second.embrulho) {
-                    return falha_campo(campo, "a message is written as an object");
-                }
+        if (campo.tipo_cpp == FieldDescriptor::CPPTYPE_MESSAGE) {
+            if (*p_ != '{' && !campo.mensagem->embrulho) {
+                return falha_campo(campo, "a message is written as an object");
             }
-            return mensagem_do_valor(*mensagem.GetReflection()->AddMessage(&mensagem, &campo), campo, profundidade);
+            google::protobuf::MessageFactory* const fabrica = reflexao_do_tipo_ ? &fabrica_ : nullptr;
+            return mensagem_do_valor(*reflexao(mensagem, tipo).AddMessage(&mensagem, campo.descritor, fabrica), campo,
+                                     profundidade);
         }
         if (*p_ == '{') {
             return falha_campo(campo, "starting an object on a scalar field");
         }
-        return escalar(mensagem, campo);
+        return escalar(mensagem, reflexao(mensagem, tipo), campo);
     }
 
     // The values of a repeated field; arrays within it add their elements to
     // the same field, at any depth, as protobuf's reader does.
-    bool lista(Message& mensagem, FieldDescriptor const& campo, int profundidade)
+    bool lista(Message& mensagem, tipo_lido const& tipo, campo_lido const& campo, int profundidade)
     {
         std::size_t abertas = 0;
         bool depois_de_valor = false;
@@ -490,7 +534,7 @@ private:
             }
             if (literal("null")) {
                 p_ += 4;
-            } else if (!elemento(mensagem, campo, profundidade)) {
+            } else if (!elemento(mensagem, tipo, campo, profundidade)) {
                 return false;
             }
             depois_de_valor = true;
@@ -693,10 +737,10 @@ private:
     }
 
     // A scalar of a field, or of a wrapper's value, set or added.
-    bool escalar(Message& mensagem, FieldDescriptor const& campo)
+    bool escalar(Message& mensagem, Reflection const& r, campo_lido const& lido_do_campo)
     {
-        Reflection const& r = *mensagem.GetReflection();
-        bool const repetido = campo.is_repeated();
+        FieldDescriptor const& campo = *lido_do_campo.descritor;
+        bool const repetido = lido_do_campo.repetido;
         numero lido;
         std::string_view vista;
         bool aspas = false;
@@ -717,29 +761,29 @@ private:
             verdade = c == 't';
             p_ += verdade ? 4 : 5;
         } else if (c == '{') {
-            return falha_campo(campo, "starting an object on a scalar field");
+            return falha_campo(lido_do_campo, "starting an object on a scalar field");
         } else {
             return falha("expected a value");
         }
         auto recusa = [&] {
-            return falha_campo(campo, std::string("invalid value ") +
+            return falha_campo(lido_do_campo, std::string("invalid value ") +
                                           (aspas ? "\"" + std::string(vista) + "\"" : std::string(vista)) +
                                           " for type " + std::string(campo.type_name()));
         };
         if (logico) {
-            if (campo.cpp_type() != FieldDescriptor::CPPTYPE_BOOL) {
+            if (lido_do_campo.tipo_cpp != FieldDescriptor::CPPTYPE_BOOL) {
                 return recusa();
             }
             repetido ? r.AddBool(&mensagem, &campo, verdade) : r.SetBool(&mensagem, &campo, verdade);
             return true;
         }
-        switch (campo.cpp_type()) {
+        switch (lido_do_campo.tipo_cpp) {
         case FieldDescriptor::CPPTYPE_STRING: {
             if (!aspas) {
                 return recusa();
             }
             std::string valor;
-            if (campo.type() == FieldDescriptor::TYPE_BYTES) {
+            if (lido_do_campo.bytes) {
                 if (!base64(vista, valor)) {
                     return recusa();
                 }
@@ -750,18 +794,19 @@ private:
                      : r.SetString(&mensagem, &campo, std::move(valor));
             return true;
         }
-        case FieldDescriptor::CPPTYPE_INT32: return inteiro_do_campo<std::int32_t>(mensagem, campo, aspas, vista, lido, recusa);
-        case FieldDescriptor::CPPTYPE_UINT32: return inteiro_do_campo<std::uint32_t>(mensagem, campo, aspas, vista, lido, recusa);
-        case FieldDescriptor::CPPTYPE_INT64: return inteiro_do_campo<std::int64_t>(mensagem, campo, aspas, vista, lido, recusa);
-        case FieldDescriptor::CPPTYPE_UINT64: return inteiro_do_campo<std::uint64_t>(mensagem, campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_INT32: return inteiro_do_campo<std::int32_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_UINT32: return inteiro_do_campo<std::uint32_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_INT64: return inteiro_do_campo<std::int64_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_UINT64: return inteiro_do_campo<std::uint64_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
         case FieldDescriptor::CPPTYPE_ENUM: {
             int valor = 0;
             if (aspas) {
-                auto const* const nomeado = campo.enum_type()->FindValueByName(std::string(vista));
+                auto const* const nomeado = lido_do_campo.enumeracao->FindValueByName(std::string(vista));
                 if (nomeado != nullptr) {
                     valor = nomeado->number();
                 } else if (std::int32_t numero_lido = 0;
-                           inteiro(vista, numero_lido) && campo.enum_type()->FindValueByNumber(numero_lido) != nullptr) {
+                           inteiro(vista, numero_lido) &&
+                           lido_do_campo.enumeracao->FindValueByNumber(numero_lido) != nullptr) {
                     valor = numero_lido;
                 } else {
                     return recusa();
@@ -780,7 +825,7 @@ private:
             if (!(aspas ? real(vista, valor) : real(lido, valor))) {
                 return recusa();
             }
-            if (campo.cpp_type() == FieldDescriptor::CPPTYPE_DOUBLE) {
+            if (lido_do_campo.tipo_cpp == FieldDescriptor::CPPTYPE_DOUBLE) {
                 repetido ? r.AddDouble(&mensagem, &campo, valor) : r.SetDouble(&mensagem, &campo, valor);
             } else {
                 if (std::isfinite(valor) && std::abs(valor) > std::numeric_limits<float>::max()) {
@@ -803,15 +848,15 @@ private:
     }
 
     template <class T, class Recusa>
-    bool inteiro_do_campo(Message& mensagem, FieldDescriptor const& campo, bool aspas, std::string_view vista,
-                          numero const& lido, Recusa const& recusa)
+    bool inteiro_do_campo(Message& mensagem, Reflection const& r, campo_lido const& lido_do_campo, bool aspas,
+                          std::string_view vista, numero const& lido, Recusa const& recusa)
     {
         T valor{};
         if (!(aspas ? inteiro(vista, valor) : inteiro(lido, valor))) {
             return recusa();
         }
-        Reflection const& r = *mensagem.GetReflection();
-        bool const repetido = campo.is_repeated();
+        FieldDescriptor const& campo = *lido_do_campo.descritor;
+        bool const repetido = lido_do_campo.repetido;
         if constexpr (std::is_same_v<T, std::int32_t>) {
             repetido ? r.AddInt32(&mensagem, &campo, valor) : r.SetInt32(&mensagem, &campo, valor);
         } else if constexpr (std::is_same_v<T, std::uint32_t>) {
@@ -825,6 +870,8 @@ private:
     }
 
     std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos_;
+    leitor_json::fabrica& fabrica_;
+    bool reflexao_do_tipo_ = false;
     char const* const inicio_;
     char const* p_;
     char const* const fim_;
@@ -839,11 +886,13 @@ leitor_json::leitor_json(Descriptor const& raiz)
     indexar(raiz);
 }
 
-void leitor_json::indexar(Descriptor const& descritor)
+leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
 {
-    if (tipos_.count(&descritor) != 0) {
-        return;
+    if (auto const achado = tipos_.find(&descritor); achado != tipos_.end()) {
+        return achado->second;
     }
+    // The map's nodes stay where they are as it grows: the addresses of the
+    // types and of their fields are kept.
     tipo& novo = tipos_[&descritor];
     std::string_view const nome = descritor.full_name();
     if (nome.substr(0, 16) == "google.protobuf.") {
@@ -852,21 +901,40 @@ void leitor_json::indexar(Descriptor const& descritor)
     }
     // One bit per oneof in the reading of an object.
     novo.desconhecido = novo.desconhecido || descritor.oneof_decl_count() > 64;
-    for (int i = 0; i < descritor.field_count(); ++i) {
-        FieldDescriptor const* const campo = descritor.field(i);
-        novo.campos.emplace(campo->name(), campo);
-        novo.campos.emplace(campo->json_name(), campo);
+    if (Message const* prototipo = google::protobuf::MessageFactory::generated_factory()->GetPrototype(&descritor)) {
+        novo.prototipo = prototipo;
+        novo.reflexao = prototipo->GetReflection();
     }
+    novo.lista.resize(static_cast<std::size_t>(descritor.field_count()));
     for (int i = 0; i < descritor.field_count(); ++i) {
-        if (descritor.field(i)->message_type() != nullptr) {
-            indexar(*descritor.field(i)->message_type());
+        FieldDescriptor const* const descritor_campo = descritor.field(i);
+        campo& lido = novo.lista[static_cast<std::size_t>(i)];
+        lido.descritor = descritor_campo;
+        lido.tipo_cpp = descritor_campo->cpp_type();
+        lido.repetido = descritor_campo->is_repeated();
+        lido.bytes = descritor_campo->type() == FieldDescriptor::TYPE_BYTES;
+        lido.oneof = descritor_campo->containing_oneof() == nullptr ? -1 : descritor_campo->containing_oneof()->index();
+        lido.enumeracao = descritor_campo->enum_type();
+        novo.campos.emplace(descritor_campo->name(), &lido);
+        novo.campos.emplace(descritor_campo->json_name(), &lido);
+    }
+    for (campo& lido : novo.lista) {
+        if (Descriptor const* tipo_mensagem = lido.descritor->message_type()) {
+            lido.mensagem = &indexar(*tipo_mensagem);
         }
     }
+    return novo;
+}
+
+Message const* leitor_json::fabrica::GetPrototype(Descriptor const* tipo)
+{
+    auto const achado = tipos_.find(tipo);
+    return achado == tipos_.end() ? nullptr : achado->second.prototipo;
 }
 
 bool leitor_json::ler(std::string_view texto, Message& mensagem, std::string& motivo) const
 {
-    leitura leitura(tipos_, texto);
+    leitura leitura(tipos_, fabrica_, texto);
     if (leitura.documento(mensagem)) {
         return true;
     }

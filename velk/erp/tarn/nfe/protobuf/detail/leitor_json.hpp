@@ -15,6 +15,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
 
@@ -23,6 +24,8 @@ public:
     // The field names of every message reachable from `raiz` are indexed
     // here, once; reading needs no lock and no further allocation for names.
     explicit leitor_json(google::protobuf::Descriptor const& raiz);
+    leitor_json(leitor_json const&) = delete;
+    leitor_json& operator=(leitor_json const&) = delete;
 
     // Fills `mensagem` (of the root's type, expected cleared) from `texto`.
     // On refusal, false and `motivo` says what and at which byte; `mensagem`
@@ -32,19 +35,57 @@ public:
     // The objects nested deeper than this are refused, as protobuf does.
     static constexpr int profundidade_maxima = 100;
 
+    struct tipo;
+
+    // A field with what reading it asks of its descriptor, asked once: the
+    // descriptor's own answers go through a lock-free but costly once-check
+    // on every call.
+    struct campo {
+        google::protobuf::FieldDescriptor const* descritor = nullptr;
+        google::protobuf::FieldDescriptor::CppType tipo_cpp{};
+        bool repetido = false;
+        bool bytes = false;
+        // The index of its oneof; -1 for none.
+        int oneof = -1;
+        // The type of a message field; null for a scalar.
+        tipo const* mensagem = nullptr;
+        google::protobuf::EnumDescriptor const* enumeracao = nullptr;
+    };
+
     struct tipo {
+        // The fields in the order of the descriptor.
+        std::vector<campo> lista;
+        // The default message of a generated type; null for another.
+        google::protobuf::Message const* prototipo = nullptr;
         // By the name of the .proto file and by its lowerCamelCase form.
-        std::unordered_map<std::string_view, google::protobuf::FieldDescriptor const*> campos;
+        std::unordered_map<std::string_view, campo const*> campos;
+        // The one reflection of the messages of a generated type; null for
+        // another.
+        google::protobuf::Reflection const* reflexao = nullptr;
         // google.protobuf's wrappers: written as their bare value as well.
         bool embrulho = false;
         // A well-known type whose JSON form this reader does not know.
         bool desconhecido = false;
     };
 
+    // The default messages of the indexed generated types, found without the
+    // lock protobuf's own factory takes on every question; null for another
+    // type. Given to reflection where it makes the first element of a
+    // repeated field.
+    class fabrica : public google::protobuf::MessageFactory {
+    public:
+        explicit fabrica(std::unordered_map<google::protobuf::Descriptor const*, tipo> const& tipos) : tipos_(tipos) {}
+        google::protobuf::Message const* GetPrototype(google::protobuf::Descriptor const* tipo) override;
+
+    private:
+        std::unordered_map<google::protobuf::Descriptor const*, tipo> const& tipos_;
+    };
+
 private:
-    void indexar(google::protobuf::Descriptor const& descritor);
+    tipo& indexar(google::protobuf::Descriptor const& descritor);
 
     std::unordered_map<google::protobuf::Descriptor const*, tipo> tipos_;
+    mutable fabrica fabrica_{tipos_};
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail

@@ -1,0 +1,425 @@
+#include <velk/cryptography/xml/detail/canonical_serializer.hpp>
+
+#include <velk/core/result/report.hpp>
+#include <velk/cryptography/cryptography_result_category.hpp>
+#include <velk/xml/node.hpp>
+#include <velk/xml/qualified_name.hpp>
+
+#include <libxml/uri.h>
+
+#include <algorithm>
+#include <array>
+
+namespace velk::cryptography {
+inline namespace v3 {
+namespace xml {
+namespace detail {
+
+namespace {
+
+constexpr std::string_view xml_namespace = "http://www.w3.org/XML/1998/namespace";
+// Pieces go out when the buffer holds this much, so a large document is
+// hashed as it is written instead of held whole.
+constexpr std::size_t piece_size = 16 * 1024;
+
+std::string_view prefix_of(std::string_view qualified_name)
+{
+    std::size_t const colon = qualified_name.find(':');
+    return colon == std::string_view::npos ? std::string_view() : qualified_name.substr(0, colon);
+}
+
+std::string_view local_part_of(std::string_view qualified_name)
+{
+    std::size_t const colon = qualified_name.find(':');
+    return colon == std::string_view::npos ? qualified_name : qualified_name.substr(colon + 1);
+}
+
+// What the canonical form escapes, by byte: in texts, in attribute values, or
+// in both.
+enum escape_kind : unsigned char { in_text = 1, in_attribute = 2 };
+
+constexpr std::array<unsigned char, 256> make_escapes()
+{
+    std::array<unsigned char, 256> table{};
+    table['&'] = in_text | in_attribute;
+    table['<'] = in_text | in_attribute;
+    table['>'] = in_text;
+    table['"'] = in_attribute;
+    table['\t'] = in_attribute;
+    table['\n'] = in_attribute;
+    table['\r'] = in_text | in_attribute;
+    return table;
+}
+
+constexpr std::array<unsigned char, 256> escapes = make_escapes();
+
+std::string_view escape_of(char c)
+{
+    switch (c) {
+    case '&': return "&amp;";
+    case '<': return "&lt;";
+    case '>': return "&gt;";
+    case '"': return "&quot;";
+    case '\t': return "&#x9;";
+    case '\n': return "&#xA;";
+    default: return "&#xD;";
+    }
+}
+
+// Whether a namespace URI is absolute, as the canonical form requires. The
+// few URIs a thread meets are remembered once found good.
+bool is_absolute_uri(std::string_view uri)
+{
+    thread_local std::array<std::string, 4> known;
+    thread_local std::size_t next = 0;
+    for (std::string const& good : known) {
+        if (!good.empty() && good == uri) {
+            return true;
+        }
+    }
+    std::string const text(uri);
+    xmlURIPtr parsed = xmlParseURI(text.c_str());
+    bool const absolute = parsed != nullptr && parsed->scheme != nullptr && *parsed->scheme != '\0';
+    xmlFreeURI(parsed);
+    if (absolute) {
+        known[next] = text;
+        next = (next + 1) % known.size();
+    }
+    return absolute;
+}
+
+// Attributes in the canonical order: those without namespace first, by name;
+// then by namespace URI and local name.
+bool comes_before(std::string_view a_uri, std::string_view a_name, std::string_view b_uri, std::string_view b_name)
+{
+    if (a_uri.empty() != b_uri.empty()) {
+        return a_uri.empty();
+    }
+    int const by_uri = a_uri.compare(b_uri);
+    return by_uri != 0 ? by_uri < 0 : a_name < b_name;
+}
+
+}  // namespace
+
+namespace {
+
+// The memory of the last buffer of the thread, for the next: a signature
+// writes two canonical forms, and a point of sale signs one document after
+// another.
+struct spare_memory {
+    std::unique_ptr<char[]> data;
+    std::size_t capacity = 0;
+};
+
+thread_local spare_memory spare;
+
+}  // namespace
+
+canonical_serializer::buffer::buffer() : data_(std::move(spare.data)), capacity_(spare.capacity)
+{
+    spare.capacity = 0;
+}
+
+canonical_serializer::buffer::~buffer()
+{
+    // Memory grown by one large text goes back to the system.
+    if (spare.data == nullptr && capacity_ <= 4 * piece_size) {
+        spare.data = std::move(data_);
+        spare.capacity = capacity_;
+    }
+}
+
+void canonical_serializer::buffer::grow(std::size_t more)
+{
+    std::size_t const capacity = std::max(capacity_ * 2, std::max(size_ + more, piece_size + 1024));
+    auto larger = std::make_unique<char[]>(capacity);
+    if (size_ != 0) {
+        std::memcpy(larger.get(), data_.get(), size_);
+    }
+    data_ = std::move(larger);
+    capacity_ = capacity;
+}
+
+bool canonical_serializer::write(subtree const& what, sink const& output, core::result::stack& stack)
+{
+    out_.clear();
+    scope_.truncate(0);
+    problem_.clear();
+    excluded_ = what.excluded;
+    replacements_ = what.replacements;
+    with_comments_ = what.with_comments;
+    output_ = &output;
+    bool const written = write_apex(what);
+    if (written && out_.size() != 0) {
+        output(out_.view());
+    }
+    output_ = nullptr;
+    out_.clear();
+    if (!written) {
+        core::result::fresh<cryptography_result_category::canonicalization_failed>(stack, problem_);
+    }
+    return written;
+}
+
+void canonical_serializer::flush_if_full()
+{
+    if (out_.size() >= piece_size) {
+        (*output_)(out_.view());
+        out_.clear();
+    }
+}
+
+bool canonical_serializer::start_tag(velk::xml::element const& value)
+{
+    // The tree's own rule: a name it can save is a name the canonical form
+    // takes, and one it would refuse to save is refused here too.
+    std::string const& name = value.get_qualified_name();
+    if (!velk::xml::is_qualified_name(name)) {
+        problem_ = "nome de elemento inválido: \"" + name + "\"";
+        return false;
+    }
+    out_.put('<');
+    out_.put(name);
+    return true;
+}
+
+bool canonical_serializer::write_apex(subtree const& what)
+{
+    if (!start_tag(what.apex)) {
+        return false;
+    }
+    // Everything in scope at apex is rendered on it.
+    namespace_scope context;
+    for (velk::xml::element const* ancestor : what.ancestors) {
+        context.enter(*ancestor);
+    }
+    context.enter(what.apex);
+    for (namespace_scope::entry const& declaration : context.in_scope()) {
+        scope_.push(declaration);
+    }
+    auto const in_scope = scope_.since(0);
+    declarations_.assign(in_scope.begin(), in_scope.end());
+    if (!write_declarations()) {
+        return false;
+    }
+    gather_attributes(what.apex);
+    // The xml: attributes of the ancestors, the nearest first, unless apex
+    // has its own of that name.
+    for (std::size_t index = what.ancestors.size(); index-- > 0;) {
+        for (velk::xml::attribute const& property : what.ancestors[index]->get_attributes()) {
+            std::string_view const name = property.get_name();
+            if (prefix_of(name) != "xml") {
+                continue;
+            }
+            std::string_view const local = local_part_of(name);
+            bool const present = std::any_of(attributes_.begin(), attributes_.end(), [&](attribute_entry const& entry) {
+                return entry.uri == xml_namespace && entry.local == local;
+            });
+            if (!present) {
+                attributes_.push_back({name, local, xml_namespace, &property.get_value()});
+            }
+        }
+    }
+    write_attributes();
+    out_.put('>');
+    if (!write_children(what.apex)) {
+        return false;
+    }
+    out_.put("</");
+    out_.put(what.apex.get_qualified_name());
+    out_.put('>');
+    return true;
+}
+
+bool canonical_serializer::write_element(velk::xml::element const& value)
+{
+    if (!start_tag(value)) {
+        return false;
+    }
+    std::size_t const mark = scope_.size();
+    scope_.enter(value);
+    // A declaration is rendered where it changes what the parent had in scope
+    // (no default namespace counting as an empty one).
+    declarations_.clear();
+    for (namespace_scope::entry const& declaration : scope_.since(mark)) {
+        namespace_scope::entry const* outer = scope_.find_below(mark, declaration.prefix);
+        bool const same = outer == nullptr ? declaration.prefix.empty() && declaration.uri.empty()
+                                           : outer->uri == declaration.uri;
+        if (!same) {
+            declarations_.push_back(declaration);
+        }
+    }
+    if (!write_declarations()) {
+        return false;
+    }
+    gather_attributes(value);
+    write_attributes();
+    out_.put('>');
+    if (!write_children(value)) {
+        return false;
+    }
+    out_.put("</");
+    out_.put(value.get_qualified_name());
+    out_.put('>');
+    scope_.truncate(mark);
+    flush_if_full();
+    return true;
+}
+
+bool canonical_serializer::write_declarations()
+{
+    // By prefix, the default namespace (empty prefix) first.
+    std::sort(declarations_.begin(), declarations_.end(),
+              [](namespace_scope::entry const& a, namespace_scope::entry const& b) { return a.prefix < b.prefix; });
+    for (namespace_scope::entry const& declaration : declarations_) {
+        if (declaration.prefix == "xml") {
+            continue;
+        }
+        if (!declaration.uri.empty() && !is_absolute_uri(declaration.uri)) {
+            problem_ = "URI de namespace relativa: \"" + std::string(declaration.uri) + "\"";
+            return false;
+        }
+        out_.put(" xmlns");
+        if (!declaration.prefix.empty()) {
+            out_.put(':');
+            out_.put(declaration.prefix);
+        }
+        out_.put("=\"");
+        // A URI read or accepted by the tree holds no "<", quote or line end:
+        // only its "&" needs escaping.
+        for (char const c : declaration.uri) {
+            if (c == '&') {
+                out_.put("&amp;");
+            } else {
+                out_.put(c);
+            }
+        }
+        out_.put('"');
+    }
+    return true;
+}
+
+void canonical_serializer::gather_attributes(velk::xml::element const& value)
+{
+    attributes_.clear();
+    for (velk::xml::attribute const& property : value.get_attributes()) {
+        std::string_view const name = property.get_name();
+        std::string_view const prefix = prefix_of(name);
+        std::string_view uri;
+        if (prefix == "xml") {
+            uri = xml_namespace;
+        } else if (!prefix.empty()) {
+            // An unprefixed attribute is in no namespace; a prefixed one is in
+            // the namespace its prefix names in scope, if any.
+            if (namespace_scope::entry const* found = scope_.find(prefix)) {
+                uri = found->uri;
+            }
+        }
+        attributes_.push_back({name, uri.empty() ? name : local_part_of(name), uri, &property.get_value()});
+    }
+}
+
+void canonical_serializer::write_attributes()
+{
+    if (attributes_.size() > 1) {
+        std::stable_sort(attributes_.begin(), attributes_.end(), [](attribute_entry const& a, attribute_entry const& b) {
+            return comes_before(a.uri, a.local, b.uri, b.local);
+        });
+    }
+    for (attribute_entry const& entry : attributes_) {
+        out_.put(' ');
+        out_.put(entry.name);
+        out_.put("=\"");
+        write_escaped(*entry.value, in_attribute);
+        out_.put('"');
+    }
+}
+
+bool canonical_serializer::write_children(velk::xml::element const& value)
+{
+    for (replacement const& replaced : replacements_) {
+        if (replaced.target == &value) {
+            write_escaped(*replaced.contents, in_text);
+            return true;
+        }
+    }
+    for (velk::xml::node const& child : value.get_node_range()) {
+        if (velk::xml::element const* nested = child.as_element()) {
+            if (nested != excluded_ && !write_element(*nested)) {
+                return false;
+            }
+        } else if (velk::xml::text const* contents = child.as_text()) {
+            write_escaped(contents->get_contents(), in_text);
+        } else if (velk::xml::cdata_section const* section = child.as_cdata_section()) {
+            write_cdata_as_text(section->get_contents());
+        } else if (velk::xml::comment const* remark = child.as_comment()) {
+            if (with_comments_) {
+                out_.put("<!--");
+                write_normalised_line_ends(remark->get_contents());
+                out_.put("-->");
+            }
+        } else if (velk::xml::processing_instruction const* instruction = child.as_processing_instruction()) {
+            out_.put("<?");
+            out_.put(instruction->get_target());
+            if (!instruction->get_data().empty()) {
+                out_.put(' ');
+                write_normalised_line_ends(instruction->get_data());
+            }
+            out_.put("?>");
+        }
+    }
+    return true;
+}
+
+void canonical_serializer::write_escaped(std::string_view text, unsigned char kind)
+{
+    std::size_t run = 0;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        char const c = text[index];
+        if ((escapes[static_cast<unsigned char>(c)] & kind) != 0) {
+            out_.put(text.substr(run, index - run));
+            out_.put(escape_of(c));
+            run = index + 1;
+        }
+    }
+    out_.put(text.substr(run));
+}
+
+// A parser turns every CR LF and lone CR of a CDATA section into LF; the
+// section's text is then escaped as any text.
+void canonical_serializer::write_cdata_as_text(std::string_view text)
+{
+    std::size_t run = 0;
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        char const c = text[index];
+        if ((escapes[static_cast<unsigned char>(c)] & in_text) == 0) {
+            continue;
+        }
+        out_.put(text.substr(run, index - run));
+        run = index + 1;
+        if (c != '\r') {
+            out_.put(escape_of(c));
+        } else if (index + 1 >= text.size() || text[index + 1] != '\n') {
+            out_.put('\n');
+        }
+    }
+    out_.put(text.substr(run));
+}
+
+// Comments and processing instructions keep their text as it is, but for the
+// line ends a parser normalises.
+void canonical_serializer::write_normalised_line_ends(std::string_view text)
+{
+    for (std::size_t index = 0; index < text.size(); ++index) {
+        if (text[index] != '\r') {
+            out_.put(text[index]);
+        } else if (index + 1 >= text.size() || text[index + 1] != '\n') {
+            out_.put('\n');
+        }
+    }
+}
+
+}  // namespace detail
+}  // namespace xml
+}  // namespace v3
+}  // namespace velk::cryptography
