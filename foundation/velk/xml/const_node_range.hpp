@@ -1,9 +1,9 @@
 #pragma once
 
 #include <velk/core/export.hpp>
+#include <velk/xml/node_list.hpp>
 
 #include <cstddef>
-#include <list>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -13,10 +13,10 @@ class node;
 // The children of an element in document order, read-only.
 class VELK_EXPORT const_node_range {
 public:
-    using iterator = std::list<node>::const_iterator;
-    using const_iterator = std::list<node>::const_iterator;
+    using iterator = node_list::const_iterator;
+    using const_iterator = node_list::const_iterator;
 
-    explicit const_node_range(std::list<node> const& nodes) : nodes_(&nodes) {}
+    explicit const_node_range(node_list const& nodes) : nodes_(&nodes) {}
 
     const_iterator begin() const;
     const_iterator end() const;
@@ -24,7 +24,7 @@ public:
     bool empty() const;
 
 private:
-    std::list<node> const* nodes_;
+    node_list const* nodes_;
 };
 
 }  // namespace v3

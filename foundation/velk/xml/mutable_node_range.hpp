@@ -1,9 +1,9 @@
 #pragma once
 
 #include <velk/core/export.hpp>
+#include <velk/xml/node_list.hpp>
 
 #include <cstddef>
-#include <list>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -16,11 +16,11 @@ class element;
 // inserted or erased.
 class VELK_EXPORT mutable_node_range {
 public:
-    using iterator = std::list<node>::iterator;
+    using iterator = node_list::iterator;
 
     // With an owner, inserted elements take its namespaces as
     // element::append_node gives them.
-    explicit mutable_node_range(std::list<node>& nodes, element const* owner = nullptr)
+    explicit mutable_node_range(node_list& nodes, element const* owner = nullptr)
         : nodes_(&nodes), owner_(owner)
     {
     }
@@ -42,7 +42,7 @@ public:
 private:
     iterator adopted(iterator position);
 
-    std::list<node>* nodes_;
+    node_list* nodes_;
     element const* owner_;
 };
 

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <velk/xml/element.hpp>
+#include <velk/xml/block_memory.hpp>
 #include <velk/xml/node.hpp>
+#include <velk/xml/node_list.hpp>
 
-#include <list>
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -30,7 +32,12 @@ struct element::impl {
     // element.
     std::shared_ptr<std::string const> namespace_uri;
     std::unique_ptr<extras> more;
-    std::list<node> children;
+    node_list children;
+
+    // Taken from and given back to the thread's kept pieces: a document is
+    // hundreds of these.
+    static void* operator new(std::size_t size) { return block_memory::take(size); }
+    static void operator delete(void* block, std::size_t size) noexcept { block_memory::give(block, size); }
 
     impl() = default;
     impl(impl const& other);

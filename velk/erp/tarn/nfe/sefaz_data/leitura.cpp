@@ -3,47 +3,47 @@
 #include <velk/xml/node.hpp>
 
 #include <algorithm>
+#include <string_view>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data {
 
 namespace {
 
+// Each wanted path split into its names once; the walk then keeps, level by
+// level, which paths still agree with the names taken so far, so that an
+// element is compared only with the names its depth can have.
 struct path_walk {
     std::vector<std::string> const& paths;
+    std::vector<std::vector<std::string_view>> segments;
     std::vector<bool> pending;
     std::size_t remaining;
+    // The candidates of every open level, one level after another.
+    std::vector<std::size_t> candidates;
     std::unordered_map<std::string, xml::element const*> found;
 
-    // True when some pending path equals `path` or lies beneath it: only then
-    // is the subtree worth entering.
-    bool worth_entering(std::string const& path) const
+    explicit path_walk(std::vector<std::string> const& wanted)
+        : paths(wanted), segments(wanted.size()), pending(wanted.size(), true), remaining(wanted.size())
     {
-        for (std::size_t index = 0; index < paths.size(); ++index) {
-            if (!pending[index]) {
-                continue;
+        for (std::size_t index = 0; index < wanted.size(); ++index) {
+            std::string_view rest = wanted[index];
+            while (true) {
+                std::size_t const slash = rest.find('/');
+                segments[index].push_back(rest.substr(0, slash));
+                if (slash == std::string_view::npos) {
+                    break;
+                }
+                rest.remove_prefix(slash + 1);
             }
-            std::string const& wanted = paths[index];
-            if (wanted.size() >= path.size() && wanted.compare(0, path.size(), path) == 0 &&
-                (wanted.size() == path.size() || wanted[path.size()] == '/')) {
-                return true;
-            }
+            candidates.push_back(index);
         }
-        return false;
+        found.reserve(wanted.size());
     }
 
-    void take(std::string const& path, xml::element const& value)
+    // The candidates of the level that starts at `first`, for children at
+    // `depth`.
+    void visit_children(xml::element const& parent, std::size_t first, std::size_t depth)
     {
-        for (std::size_t index = 0; index < paths.size(); ++index) {
-            if (pending[index] && paths[index] == path) {
-                pending[index] = false;
-                --remaining;
-                found.emplace(path, &value);
-            }
-        }
-    }
-
-    void visit_children(xml::element const& parent, std::string& prefix)
-    {
+        std::size_t const last = candidates.size();
         for (xml::node const& child : parent.get_node_range()) {
             if (remaining == 0) {
                 return;
@@ -52,16 +52,25 @@ struct path_walk {
             if (value == nullptr) {
                 continue;
             }
-            std::size_t const mark = prefix.size();
-            if (!prefix.empty()) {
-                prefix += '/';
+            std::string const& name = value->get_name();
+            std::size_t const level = candidates.size();
+            for (std::size_t at = first; at < last; ++at) {
+                std::size_t const index = candidates[at];
+                if (!pending[index] || segments[index][depth] != name) {
+                    continue;
+                }
+                if (segments[index].size() == depth + 1) {
+                    pending[index] = false;
+                    --remaining;
+                    found.emplace(paths[index], value);
+                } else {
+                    candidates.push_back(index);
+                }
             }
-            prefix += value->get_name();
-            if (worth_entering(prefix)) {
-                take(prefix, *value);
-                visit_children(*value, prefix);
+            if (candidates.size() != level) {
+                visit_children(*value, level, depth + 1);
+                candidates.resize(level);
             }
-            prefix.resize(mark);
         }
     }
 };
@@ -71,9 +80,8 @@ struct path_walk {
 std::unordered_map<std::string, xml::element const*> find_elements_by_path(xml::element const& raiz,
                                                                            std::vector<std::string> const& paths)
 {
-    path_walk walk{paths, std::vector<bool>(paths.size(), true), paths.size(), {}};
-    std::string prefix;
-    walk.visit_children(raiz, prefix);
+    path_walk walk(paths);
+    walk.visit_children(raiz, 0, 0);
     return std::move(walk.found);
 }
 
