@@ -63,7 +63,10 @@ shared_uri resolve(contents_type const& scope, std::string_view prefix)
 void adopt(contents_type const& parent, element& child)
 {
     contents_type* contents = element_access::contents(child);
-    if (contents == nullptr || contents->namespace_uri != nullptr) {
+    // A parent with no namespace and no declaration has none to give: the
+    // common case of a tree built from the leaves up.
+    if (contents == nullptr || contents->namespace_uri != nullptr ||
+        (parent.namespace_uri == nullptr && parent.more == nullptr)) {
         return;
     }
     std::string_view const prefix = contents->prefix();

@@ -232,9 +232,12 @@ private:
 
     void pular_espaco()
     {
-        while (p_ != fim_ && espaco(*p_)) {
-            ++p_;
+        // A local cursor: the member would be stored back at every byte.
+        char const* p = p_;
+        while (p != fim_ && espaco(*p)) {
+            ++p;
         }
+        p_ = p;
     }
 
     bool literal(std::string_view palavra) const
@@ -253,9 +256,11 @@ private:
         while (true) {
             // A run that needs nothing but copying when there was an escape.
             char const* const corrida = p_;
-            while (p_ != fim_ && classes[static_cast<unsigned char>(*p_)] != atencao_no_texto) {
-                ++p_;
+            char const* p = p_;
+            while (p != fim_ && classes[static_cast<unsigned char>(*p)] != atencao_no_texto) {
+                ++p;
             }
+            p_ = p;
             if (copiado) {
                 saida.append(corrida, p_);
             }
@@ -411,11 +416,11 @@ private:
             }
             ++p_;
             pular_espaco();
-            auto const campo = tipo.campos.find(chave_lida);
-            if (campo == tipo.campos.end()) {
+            leitor_json::campo const* const campo = tipo.campos.achar(chave_lida);
+            if (campo == nullptr) {
                 return falha(std::string(chave_lida) + ": cannot find field");
             }
-            if (!valor_do_campo(mensagem, tipo, *campo->second, oneofs, profundidade)) {
+            if (!valor_do_campo(mensagem, tipo, *campo, oneofs, profundidade)) {
                 return false;
             }
             pular_espaco();
@@ -915,8 +920,8 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         lido.bytes = descritor_campo->type() == FieldDescriptor::TYPE_BYTES;
         lido.oneof = descritor_campo->containing_oneof() == nullptr ? -1 : descritor_campo->containing_oneof()->index();
         lido.enumeracao = descritor_campo->enum_type();
-        novo.campos.emplace(descritor_campo->name(), &lido);
-        novo.campos.emplace(descritor_campo->json_name(), &lido);
+        novo.campos.incluir(descritor_campo->name(), &lido);
+        novo.campos.incluir(descritor_campo->json_name(), &lido);
     }
     for (campo& lido : novo.lista) {
         if (Descriptor const* tipo_mensagem = lido.descritor->message_type()) {
@@ -924,6 +929,68 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         }
     }
     return novo;
+}
+
+std::size_t leitor_json::campos_por_nome::espalhar(std::string_view nome)
+{
+    // The length and the bytes at both ends and in the middle tell the names
+    // of one message apart nearly always, at a few instructions.
+    std::size_t const n = nome.size();
+    if (n == 0) {
+        return 0;
+    }
+    auto const byte = [&](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(nome[i])); };
+    std::size_t const h = (n * 0x9E3779B1u) ^ (byte(0) << 3) ^ (byte(n - 1) << 9) ^ (byte(n / 2) << 15) ^ (byte(n > 1 ? 1 : 0) << 21);
+    return h ^ (h >> 11);
+}
+
+void leitor_json::campos_por_nome::crescer()
+{
+    std::vector<std::pair<std::string_view, campo const*>> antigas(std::max<std::size_t>(16, casas_.size() * 2));
+    antigas.swap(casas_);
+    ocupadas_ = 0;
+    for (auto const& [nome, lido] : antigas) {
+        if (lido != nullptr) {
+            incluir(nome, lido);
+        }
+    }
+}
+
+void leitor_json::campos_por_nome::incluir(std::string_view nome, campo const* lido)
+{
+    // At most half full, so that a search soon meets an empty place.
+    if ((ocupadas_ + 1) * 2 > casas_.size()) {
+        crescer();
+    }
+    std::size_t const mascara = casas_.size() - 1;
+    for (std::size_t i = espalhar(nome) & mascara;; i = (i + 1) & mascara) {
+        auto& casa = casas_[i];
+        if (casa.second == nullptr) {
+            casa = {nome, lido};
+            ++ocupadas_;
+            return;
+        }
+        if (casa.first == nome) {
+            return;
+        }
+    }
+}
+
+leitor_json::campo const* leitor_json::campos_por_nome::achar(std::string_view nome) const
+{
+    if (casas_.empty()) {
+        return nullptr;
+    }
+    std::size_t const mascara = casas_.size() - 1;
+    for (std::size_t i = espalhar(nome) & mascara;; i = (i + 1) & mascara) {
+        auto const& casa = casas_[i];
+        if (casa.second == nullptr) {
+            return nullptr;
+        }
+        if (casa.first.size() == nome.size() && casa.first == nome) {
+            return casa.second;
+        }
+    }
 }
 
 Message const* leitor_json::fabrica::GetPrototype(Descriptor const* tipo)

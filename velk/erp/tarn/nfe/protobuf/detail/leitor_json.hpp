@@ -52,13 +52,30 @@ public:
         google::protobuf::EnumDescriptor const* enumeracao = nullptr;
     };
 
+    // The fields of a message by name. Every key of a note is looked up
+    // here, so the table is open addressing over a power-of-two size: no
+    // node to follow and no division.
+    class campos_por_nome {
+    public:
+        // The first field given a name keeps it.
+        void incluir(std::string_view nome, campo const* lido);
+        campo const* achar(std::string_view nome) const;
+
+    private:
+        static std::size_t espalhar(std::string_view nome);
+        void crescer();
+
+        std::vector<std::pair<std::string_view, campo const*>> casas_;
+        std::size_t ocupadas_ = 0;
+    };
+
     struct tipo {
         // The fields in the order of the descriptor.
         std::vector<campo> lista;
         // The default message of a generated type; null for another.
         google::protobuf::Message const* prototipo = nullptr;
         // By the name of the .proto file and by its lowerCamelCase form.
-        std::unordered_map<std::string_view, campo const*> campos;
+        campos_por_nome campos;
         // The one reflection of the messages of a generated type; null for
         // another.
         google::protobuf::Reflection const* reflexao = nullptr;
