@@ -2,6 +2,7 @@
 
 #include <velk/core/result/report.hpp>
 #include <velk/cryptography/cryptography_result_category.hpp>
+#include <velk/xml/detail/element_access.hpp>
 #include <velk/xml/node.hpp>
 #include <velk/xml/qualified_name.hpp>
 
@@ -266,6 +267,35 @@ bool canonical_serializer::write_element(velk::xml::element const& value)
     return true;
 }
 
+// Most elements of a document are the bare kind: no prefix, no attribute, no
+// declaration, and the very namespace of a parent that has no prefix either.
+// Such an element changes nothing in scope and renders no declaration, so
+// the walk of the scope is skipped for it.
+bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk::xml::element const& parent)
+{
+    using access = velk::xml::detail::element_access;
+    auto const* const own = access::contents(child);
+    auto const* const above = access::contents(parent);
+    return own != nullptr && above != nullptr && own->more == nullptr && own->prefixed_local_name == nullptr &&
+           above->prefixed_local_name == nullptr && own->namespace_uri == above->namespace_uri;
+}
+
+bool canonical_serializer::write_plain_element(velk::xml::element const& value)
+{
+    if (!start_tag(value)) {
+        return false;
+    }
+    out_.put('>');
+    if (!write_children(value)) {
+        return false;
+    }
+    out_.put("</");
+    out_.put(value.get_qualified_name());
+    out_.put('>');
+    flush_if_full();
+    return true;
+}
+
 bool canonical_serializer::write_declarations()
 {
     // By prefix, the default namespace (empty prefix) first.
@@ -345,7 +375,10 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
     }
     for (velk::xml::node const& child : value.get_node_range()) {
         if (velk::xml::element const* nested = child.as_element()) {
-            if (nested != excluded_ && !write_element(*nested)) {
+            if (nested == excluded_) {
+                continue;
+            }
+            if (!(plain_child_of(*nested, value) ? write_plain_element(*nested) : write_element(*nested))) {
                 return false;
             }
         } else if (velk::xml::text const* contents = child.as_text()) {

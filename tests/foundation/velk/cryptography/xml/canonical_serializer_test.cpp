@@ -118,6 +118,9 @@ TEST(canonical_serializer, writes_what_libxml2_writes_from_the_saved_text)
         {"namespace URIs with ampersands",
          parsed("<r xmlns='urn:a?x=1&amp;y=2&#38;z=3'><inf xmlns:p='urn:p&amp;q' p:v='1'/></r>")},
         {"text beyond ASCII", parsed("<r><inf a='ção' \xD1\x9D='1'>ç€\xF0\x9D\x84\x9E<v\xD1\x9D/></inf></r>")},
+        {"bare children below a prefixed parent of the default's URI, and below one in no namespace",
+         parsed("<r xmlns='urn:a' xmlns:p='urn:a'><p:inf><v><w/></v></p:inf><m xmlns=''><n><o/></n></m>"
+                "<q:s xmlns:q='urn:q'><t><u/></t></q:s></r>")},
         {"made in memory", built_in_memory},
     };
     for (tree_case const& current : cases) {
