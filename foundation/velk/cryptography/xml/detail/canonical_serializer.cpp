@@ -222,12 +222,17 @@ bool canonical_serializer::write_apex(subtree const& what)
         }
     }
     write_attributes();
+    return write_content_and_end(what.apex);
+}
+
+bool canonical_serializer::write_content_and_end(velk::xml::element const& value)
+{
     out_.put('>');
-    if (!write_children(what.apex)) {
+    if (!write_children(value)) {
         return false;
     }
     out_.put("</");
-    out_.put(what.apex.get_qualified_name());
+    out_.put(value.get_qualified_name());
     out_.put('>');
     return true;
 }
@@ -255,13 +260,9 @@ bool canonical_serializer::write_element(velk::xml::element const& value)
     }
     gather_attributes(value);
     write_attributes();
-    out_.put('>');
-    if (!write_children(value)) {
+    if (!write_content_and_end(value)) {
         return false;
     }
-    out_.put("</");
-    out_.put(value.get_qualified_name());
-    out_.put('>');
     scope_.truncate(mark);
     flush_if_full();
     return true;
@@ -282,16 +283,9 @@ bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk:
 
 bool canonical_serializer::write_plain_element(velk::xml::element const& value)
 {
-    if (!start_tag(value)) {
+    if (!start_tag(value) || !write_content_and_end(value)) {
         return false;
     }
-    out_.put('>');
-    if (!write_children(value)) {
-        return false;
-    }
-    out_.put("</");
-    out_.put(value.get_qualified_name());
-    out_.put('>');
     flush_if_full();
     return true;
 }

@@ -108,6 +108,8 @@ private:
     bool write_element(velk::xml::element const& value);
     static bool plain_child_of(velk::xml::element const& child, velk::xml::element const& parent);
     bool write_plain_element(velk::xml::element const& value);
+    // From the end of the start tag on: ">", the children, the end tag.
+    bool write_content_and_end(velk::xml::element const& value);
     bool start_tag(velk::xml::element const& value);
     bool write_children(velk::xml::element const& value);
     // Writes declarations_ in the order of their prefixes.
