@@ -31,6 +31,10 @@ using velk::test::documento_de_texto;
 using velk::test::nfce_campos;
 using velk::test::parse_or_fail;
 using dest = std::pair<std::string, std::string>;
+
+// The layout's shortest and longest urlChave.
+constexpr char url_chave_curta[] = "http://www.sefaz.br/c";
+std::string const outra_url_chave = "http://www.fazenda.gov.br/" + std::string(59, 'y');
 using arguments = std::vector<std::pair<std::string, std::string>>;
 
 struct corpus_case {
@@ -333,7 +337,7 @@ TEST(adicionar_url_qrcode, puts_the_supplement_after_infnfe_in_place_of_the_form
     nfce_campos fields;
     velk::test::nfce_teste const nfce = velk::test::nfce_texto(fields);
     velk::xml::document document = parse_or_fail(nfce.texto);
-    informacoes_adicionais const informacoes(versao_qrcode::versao_100, std::string("http://chave"), "http://p?");
+    informacoes_adicionais const informacoes(versao_qrcode::versao_100, std::string(url_chave_curta), "http://p?");
     stack s;
     // A failure leaves the tree as it was.
     EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes, document, "000001", "", s));
@@ -341,8 +345,12 @@ TEST(adicionar_url_qrcode, puts_the_supplement_after_infnfe_in_place_of_the_form
     velk::xml::document without_root;
     EXPECT_FALSE(nfe::adicionar_url_qrcode(informacoes, without_root, "000001", "segredo", s));
     // The layout has no QR code without its urlChave, nor one a CDATA
-    // section cannot carry.
-    for (auto const& url_chave : {std::optional<std::string>(), std::optional<std::string>("http://cha\rve")}) {
+    // section cannot carry, nor one the layout's 21 to 85 characters refuse.
+    for (auto const& url_chave :
+         {std::optional<std::string>(), std::optional<std::string>("http://www.fazenda.br/cha\rve"),
+          std::optional<std::string>("http://a.gov.br/nfce"), std::optional<std::string>(" http://www.fazenda.gov.br/nfce"),
+          std::optional<std::string>("http://www.fazenda.gov.br/nfce/\u20ac"),
+          std::optional<std::string>("http://www.fazenda.gov.br/" + std::string(60, 'x'))}) {
         s.reset();
         informacoes_adicionais const sem_chave(versao_qrcode::versao_100, url_chave, "http://p?");
         EXPECT_FALSE(nfe::adicionar_url_qrcode(sem_chave, document, "000001", "segredo", s));
@@ -358,17 +366,17 @@ TEST(adicionar_url_qrcode, puts_the_supplement_after_infnfe_in_place_of_the_form
     std::string const expected = "</infNFe><infNFeSupl><qrCode><![CDATA[http://p?" +
                                  velk::test::qrcode_esperado_100(velk::test::entrada_qrcode(fields, nfce, digest),
                                                                  "000001", "segredo") +
-                                 "]]></qrCode><urlChave><![CDATA[http://chave]]></urlChave></infNFeSupl></NFe>";
+                                 "]]></qrCode><urlChave><![CDATA[" + std::string(url_chave_curta) + "]]></urlChave></infNFeSupl></NFe>";
     std::string const saved = velk::xml::document::save(document, s).to_string();
     EXPECT_NE(saved.find(expected), std::string::npos) << saved;
 
     // Again, with another urlChave: the QR code the document holds stays, the
     // supplement is still one.
-    informacoes_adicionais const outra(versao_qrcode::versao_200, std::string("http://outra"), "http://q?");
+    informacoes_adicionais const outra(versao_qrcode::versao_200, std::string(outra_url_chave), "http://q?");
     ASSERT_TRUE(nfe::adicionar_url_qrcode(outra, document, "000001", "other", s)) << s.to_string();
     std::string const again = velk::xml::document::save(document, s).to_string();
     std::string const replaced = expected.substr(0, expected.find("<urlChave>")) +
-                                 "<urlChave><![CDATA[http://outra]]></urlChave></infNFeSupl></NFe>";
+                                 "<urlChave><![CDATA[" + std::string(outra_url_chave) + "]]></urlChave></infNFeSupl></NFe>";
     EXPECT_NE(again.find(replaced), std::string::npos) << again;
 }
 

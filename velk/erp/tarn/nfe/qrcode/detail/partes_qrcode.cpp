@@ -57,10 +57,28 @@ bool verificar_pagina(informacoes_adicionais const& informacoes, core::result::s
            recusar_campo(texto_da_versao(informacoes.get_versao_qrcode()), "url_qrcode", stack);
 }
 
+namespace {
+
+// The layout's urlChave: a TString of 21 to 85 characters, each from the
+// space to "ÿ", with no blank at either end.
+bool url_chave_do_leiaute(std::string const& texto)
+{
+    std::size_t caracteres = 0;
+    for (std::size_t posicao = 0; posicao < texto.size(); ++caracteres) {
+        char32_t ponto = 0;
+        if (!tarn::detail::ler_utf8(texto, posicao, ponto) || ponto < 0x20 || ponto > 0xFF) {
+            return false;
+        }
+    }
+    return caracteres >= 21 && caracteres <= 85 && texto.front() != ' ' && texto.back() != ' ';
+}
+
+}  // namespace
+
 bool verificar_url_chave(informacoes_adicionais const& informacoes, core::result::stack& stack)
 {
     core::optional<std::string> const url_chave = informacoes.get_url_chave();
-    return (url_chave.has_value() && cabe_em_cdata(*url_chave)) ||
+    return (url_chave.has_value() && cabe_em_cdata(*url_chave) && url_chave_do_leiaute(*url_chave)) ||
            recusar_campo(texto_da_versao(informacoes.get_versao_qrcode()), "url_chave", stack);
 }
 

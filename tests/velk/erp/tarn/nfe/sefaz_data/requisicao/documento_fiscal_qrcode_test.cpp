@@ -209,14 +209,14 @@ TEST(documento_fiscal_qrcode, the_first_qrcode_stays_and_a_failure_leaves_an_emp
 
     // Again, with other values and even a CSC that would fail: the text stays,
     // the urlChave is the new one.
-    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::string("http://outra"),
+    document.gerar_qrcode(informacoes_adicionais(versao_qrcode::versao_100, std::string("http://www.sefaz.br/outra"),
                                                  "http://segunda?"),
                           "999999", "", s);
     EXPECT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(*document.get_qrcode_value(), first);
     EXPECT_EQ(cdata_of(document.get_xml(), "qrCode"), first);
-    EXPECT_EQ(cdata_of(document.get_xml(), "urlChave"), "http://outra");
-    EXPECT_EQ(*document.get_url_chave(), "http://outra");
+    EXPECT_EQ(cdata_of(document.get_xml(), "urlChave"), "http://www.sefaz.br/outra");
+    EXPECT_EQ(*document.get_url_chave(), "http://www.sefaz.br/outra");
     EXPECT_EQ(child_element_names(*document.get_xml().find_child("infNFeSupl")),
               (std::vector<std::string>{"qrCode", "urlChave"}));
     EXPECT_EQ(child_element_names(document.get_xml()), (std::vector<std::string>{"infNFe", "infNFeSupl"}));
