@@ -7,10 +7,13 @@
 #include <velk/xml/xml_result_category.hpp>
 
 #include <libxml/parser.h>
+#include <libxml/SAX2.h>
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 namespace velk::xml {
 inline namespace v3 {
@@ -24,9 +27,77 @@ namespace {
 // short text; the libxml2 tree is only read, never changed.
 constexpr int parse_options = XML_PARSE_NONET | XML_PARSE_COMPACT;
 
+// No element of a fiscal message has more than a few attributes and
+// declarations. libxml2 appends each attribute of an element by walking
+// those before it, so thousands of them would cost a time that grows with
+// their square: an element beyond this is refused before its tree is made.
+constexpr int most_attributes = 256;
+
 struct parse_state {
     bool document_type_seen = false;
+    bool too_many_attributes = false;
 };
+
+// libxml2 also checks each declaration of an element against those before
+// it, before any handler is called: the start tags are counted first, in one
+// pass, and a tag with more "=" outside its quoted values than both limits
+// allow is refused before libxml2 sees it. Comments, CDATA sections,
+// processing instructions and a DOCTYPE are passed over; texts are outside
+// any tag. Gives the line of the first tag beyond them, or 0 when none is.
+int line_beyond_limits(std::string_view text)
+{
+    constexpr int most_equals = 2 * most_attributes;
+    auto skip_past = [&](std::size_t from, std::string_view end) {
+        std::size_t const found = text.find(end, from);
+        return found == std::string_view::npos ? text.size() : found + end.size();
+    };
+    std::size_t index = 0;
+    while ((index = text.find('<', index)) != std::string_view::npos) {
+        std::string_view const rest = text.substr(index);
+        if (rest.substr(0, 4) == "<!--") {
+            index = skip_past(index + 4, "-->");
+        } else if (rest.substr(0, 9) == "<![CDATA[") {
+            index = skip_past(index + 9, "]]>");
+        } else if (rest.substr(0, 2) == "<?") {
+            index = skip_past(index + 2, "?>");
+        } else if (rest.substr(0, 2) == "<!" || rest.substr(0, 2) == "</") {
+            index = skip_past(index + 2, ">");
+        } else {
+            int equals = 0;
+            char quote = 0;
+            for (++index; index < text.size(); ++index) {
+                char const c = text[index];
+                if (quote != 0) {
+                    quote = c == quote ? 0 : quote;
+                } else if (c == '"' || c == '\'') {
+                    quote = c;
+                } else if (c == '=') {
+                    if (++equals > most_equals) {
+                        auto const lines = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(index), '\n');
+                        return static_cast<int>(lines) + 1;
+                    }
+                } else if (c == '>') {
+                    break;
+                }
+            }
+        }
+    }
+    return 0;
+}
+
+void start_element(void* context, xmlChar const* local_name, xmlChar const* prefix, xmlChar const* uri,
+                   int namespace_count, xmlChar const** namespaces, int attribute_count, int defaulted_count,
+                   xmlChar const** attributes)
+{
+    auto* parser = static_cast<xmlParserCtxtPtr>(context);
+    if (attribute_count > most_attributes || namespace_count > most_attributes) {
+        static_cast<parse_state*>(parser->_private)->too_many_attributes = true;
+        xmlStopParser(parser);
+        return;
+    }
+    xmlSAX2StartElementNs(context, local_name, prefix, uri, namespace_count, namespaces, attribute_count,
+                          defaulted_count, attributes);
+}
 
 // Called with the DOCTYPE's name and external identifiers, before its
 // internal subset is parsed: stopping here means no declaration is processed.
@@ -47,6 +118,13 @@ void report_malformed(core::result::stack& stack, libxml2_session const& session
     core::result::fresh<xml_result_category::malformed>(stack, description, std::to_string(session.get_line()));
 }
 
+void report_too_many_attributes(core::result::stack& stack, std::string const& line)
+{
+    core::result::fresh<xml_result_category::malformed>(
+        stack, "Element with more than " + std::to_string(most_attributes) + " attributes or namespace declarations",
+        line);
+}
+
 }  // namespace
 
 void libxml2_document_deleter::operator()(_xmlDoc* document) const
@@ -59,6 +137,11 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
     libxml2_session session;
     if (bytes.empty() || bytes.size() > document::largest_input) {
         report_malformed(stack, session, bytes.empty() ? "Document is empty" : "Document is too large");
+        return nullptr;
+    }
+    if (int const line = line_beyond_limits(std::string_view(reinterpret_cast<char const*>(bytes.data()), bytes.size()));
+        line != 0) {
+        report_too_many_attributes(stack, std::to_string(line));
         return nullptr;
     }
     std::unique_ptr<xmlParserCtxt, parser_deleter> parser(
@@ -76,6 +159,7 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
     parser->sax->externalSubset = nullptr;
     parser->sax->entityDecl = nullptr;
     parser->sax->unparsedEntityDecl = nullptr;
+    parser->sax->startElementNs = &start_element;
 
     xmlParseDocument(parser.get());
     libxml2_document document(parser->myDoc);
@@ -83,6 +167,10 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
 
     if (state.document_type_seen || (document && (document->intSubset != nullptr || document->extSubset != nullptr))) {
         core::result::fresh<xml_result_category::dtd_declared>(stack);
+        return nullptr;
+    }
+    if (state.too_many_attributes) {
+        report_too_many_attributes(stack, std::to_string(xmlSAX2GetLineNumber(parser.get())));
         return nullptr;
     }
     if (session.has_error() || !parser->wellFormed || !document || xmlDocGetRootElement(document.get()) == nullptr ||

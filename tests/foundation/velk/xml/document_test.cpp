@@ -308,6 +308,55 @@ TEST(document_load, hostile_and_malformed_input_fails_cleanly)
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "");
 }
 
+// An element of n attributes (or declarations of prefixes), after `before`.
+std::string with_many(int count, bool declarations, std::string const& before = "")
+{
+    std::string text = "<r>" + before + "<e";
+    for (int i = 0; i < count; ++i) {
+        std::string const n = std::to_string(i);
+        text += declarations ? " xmlns:p" + n + "=\"urn:velk:" + n + "\"" : " a" + n + "=\"v\"";
+    }
+    return text + "/></r>";
+}
+
+// libxml2 spends on an element of thousands of attributes or declarations a
+// time that grows with their square: beyond 256 of either, the element is
+// refused, found by a count of the start tags before libxml2 parses, or by
+// the parse itself.
+TEST(document_load, elements_with_too_many_attributes_are_refused)
+{
+    struct many_case {
+        char const* what;
+        std::string xml;
+        char const* line;  // null when the document reads
+    };
+    std::string const equals_everywhere = std::string(600, '=');
+    many_case const cases[] = {
+        {"256 attributes", with_many(256, false), nullptr},
+        {"256 declarations", with_many(256, true), nullptr},
+        {"257 attributes", with_many(257, false), "1"},
+        {"257 declarations", with_many(257, true), "1"},
+        {"20,000 attributes, on the third line", with_many(20000, false, "\n<x/>\n"), "3"},
+        {"200,000 declarations", with_many(200000, true), "1"},
+        {"many = in a comment, a CDATA section, an instruction, a text and a value",
+         "<r><!--" + equals_everywhere + "--><![CDATA[" + equals_everywhere + "]]><?pi " + equals_everywhere + "?>" +
+             equals_everywhere + "<e a='" + equals_everywhere + "' b=\">" + equals_everywhere + "\"/></r>",
+         nullptr},
+    };
+    for (auto const& item : cases) {
+        SCOPED_TRACE(item.what);
+        document target;
+        stack report;
+        EXPECT_EQ(target.load(byte_array(item.xml), report), item.line == nullptr) << report.to_string();
+        if (item.line != nullptr) {
+            ASSERT_EQ(report.get_value(), 1);
+            EXPECT_EQ(*report.top().find_argument("description"),
+                      "Element with more than 256 attributes or namespace declarations");
+            EXPECT_EQ(*report.top().find_argument("line"), item.line);
+        }
+    }
+}
+
 TEST(document_load, malformed_input_reports_libxml2_message_and_line)
 {
     document target;
