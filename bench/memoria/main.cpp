@@ -7,16 +7,22 @@
 //
 //   build/bench/memoria/velk-bench-memoria [documents]
 //
-// (100,000 by default, a minute or two).
+// (100,000 by default, a minute or two). It also gives the memory and time
+// that inputs of many small parts cost by the byte.
 #include "../nota_de_exemplo.hpp"
 #include "../throwaway_certificate.hpp"
 
+#include <velk/cryptography/xml/canonical_digest.hpp>
+#include <velk/erp/tarn/detail/soap/extract_result_document.hpp>
+#include <velk/erp/tarn/detail/soap/parse_response.hpp>
 #include <velk/erp/tarn/nfe/protobuf/generate_document.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
 #include <malloc.h>
 
 #include <atomic>
+#include <chrono>
+#include <functional>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -160,6 +166,103 @@ void per_document(char const* name, int items, bool nfce)
                 texto.size(), static_cast<double>(top) / 1024, static_cast<double>(held) / 1024);
 }
 
+// The heap at its peak while `step` runs, beyond what was in use before it,
+// and what is still held after it.
+void heap_of(char const* what, std::size_t input_bytes, std::function<void()> const& step)
+{
+    long long const before = in_use.load();
+    peak.store(before);
+    auto const start = std::chrono::steady_clock::now();
+    step();
+    double const seconds = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+    double const top = static_cast<double>(peak.load() - before);
+    std::printf("%-52s %9.1f MiB peak (%5.1fx the input) %8.3f s\n", what, top / (1 << 20),
+                top / static_cast<double>(input_bytes), seconds);
+}
+
+std::string repeated(std::string const& piece, std::size_t bytes)
+{
+    std::string text;
+    text.reserve(bytes + piece.size());
+    while (text.size() < bytes) {
+        text += piece;
+    }
+    return text;
+}
+
+// What outside bytes cost by the byte: trees of many small elements, a large
+// answer of the authority, and the elements whose attributes or declarations
+// are many.
+void per_byte_of_input()
+{
+    namespace soap = velk::erp::tarn::detail::soap;
+    using velk::core::byte_array;
+    constexpr std::size_t four_mib = std::size_t{4} << 20;
+    std::printf("\nInputs of many small parts (each on a thread of its own):\n");
+
+    std::string const empty_elements =
+        "<NFe xmlns=\"http://www.portalfiscal.inf.br/nfe\"><infNFe>" + repeated("<a/>", four_mib) + "</infNFe></NFe>";
+    byte_array const empty_bytes(empty_elements);
+    std::thread([&] {
+        heap_of("4 MiB of empty elements, read", empty_bytes.size(), [&] {
+            velk::xml::document document;
+            velk::core::result::stack stack;
+            document.load(empty_bytes, stack);
+        });
+        heap_of("the same, read and taken by documento_fiscal", empty_bytes.size(), [&] {
+            velk::xml::document document;
+            velk::core::result::stack stack;
+            document.load(empty_bytes, stack);
+            documento_fiscal const taken = documento_fiscal::from_xml(std::move(document), stack);
+        });
+    }).join();
+
+    std::string const answer =
+        "<soap:Envelope xmlns:soap=\"http://www.w3.org/2003/05/soap-envelope\"><soap:Body>"
+        "<nfeResultMsg xmlns=\"http://www.portalfiscal.inf.br/nfe/wsdl/NFeStatusServico4\">"
+        "<retConsStatServ xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"4.00\"><tpAmb>2</tpAmb>"
+        "<verAplic>SP_NFE_PL_008i2</verAplic><cStat>107</cStat><xMotivo>Servico em Operacao</xMotivo><cUF>35</cUF>"
+        "<dhRecbto>2026-11-24T10:00:00-03:00</dhRecbto><tMed>1</tMed>" +
+        repeated("<x/>", four_mib) + "</retConsStatServ></nfeResultMsg></soap:Body></soap:Envelope>";
+    byte_array const answer_bytes(answer);
+    std::thread([&] {
+        heap_of("4 MiB status answer, read from SOAP to its document", answer_bytes.size(), [&] {
+            velk::core::result::stack stack;
+            soap::message const read = soap::parse_response(answer_bytes, stack);
+            velk::xml::document const result =
+                soap::extract_result_document(read, {"nfeResultMsg", "nfeStatusServicoNFResult"}, stack);
+        });
+    }).join();
+
+    std::string attributes = "<r><e";
+    for (int i = 0; i < 20000; ++i) {
+        attributes += " a" + std::to_string(i) + "=\"v\"";
+    }
+    attributes += "/></r>";
+    std::string declarations = "<r><e";
+    for (int i = 0; i < 5000; ++i) {
+        declarations += " xmlns:p" + std::to_string(i) + "=\"urn:velk:" + std::to_string(i) + "\"";
+    }
+    declarations += "/></r>";
+    for (auto const& [what, text] : {std::pair<char const*, std::string const*>{"20,000 attributes, read and digested", &attributes},
+                                     {"5,000 namespace declarations, read and digested", &declarations}}) {
+        byte_array const bytes(*text);
+        std::thread([&, what = what] {
+            heap_of(what, bytes.size(), [&] {
+                velk::xml::document document;
+                velk::core::result::stack stack;
+                document.load(bytes, stack);
+                velk::xml::element const& root = *document.get_root_element();
+                velk::cryptography::xml::canonical_digest(root, root, velk::cryptography::cryptographic_hash::algorithm::sha1,
+                                                          stack);
+                if (stack.has_failed()) {
+                    std::fprintf(stderr, "%s\n", stack.to_string().c_str());
+                }
+            });
+        }).join();
+    }
+}
+
 }  // namespace
 
 int main(int argc, char** argv)
@@ -168,6 +271,7 @@ int main(int argc, char** argv)
     velk::bench::throwaway_certificate();
     per_document("NFC-e 5 items", 5, true);
     per_document("NF-e 100 items", 100, false);
+    per_byte_of_input();
 
     std::string const texto = velk::bench::nota_json_de_exemplo(5, true);
     std::printf("\nNFC-e of 5 items issued one after another (heap peak since the program started):\n"
