@@ -191,8 +191,8 @@ std::string repeated(std::string const& piece, std::size_t bytes)
 }
 
 // What outside bytes cost by the byte: trees of many small elements, a large
-// answer of the authority, and the elements whose attributes or declarations
-// are many.
+// answer of the authority, and elements of as many attributes or declarations
+// as a document may give one.
 void per_byte_of_input()
 {
     namespace soap = velk::erp::tarn::detail::soap;
@@ -234,18 +234,18 @@ void per_byte_of_input()
         });
     }).join();
 
-    std::string attributes = "<r><e";
-    for (int i = 0; i < 20000; ++i) {
+    // The most attributes and declarations an element may have, element
+    // after element.
+    std::string attributes = "<e";
+    std::string declarations = "<e";
+    for (int i = 0; i < 256; ++i) {
         attributes += " a" + std::to_string(i) + "=\"v\"";
-    }
-    attributes += "/></r>";
-    std::string declarations = "<r><e";
-    for (int i = 0; i < 5000; ++i) {
         declarations += " xmlns:p" + std::to_string(i) + "=\"urn:velk:" + std::to_string(i) + "\"";
     }
-    declarations += "/></r>";
-    for (auto const& [what, text] : {std::pair<char const*, std::string const*>{"20,000 attributes, read and digested", &attributes},
-                                     {"5,000 namespace declarations, read and digested", &declarations}}) {
+    attributes = "<r>" + repeated(attributes + "/>", four_mib) + "</r>";
+    declarations = "<r>" + repeated(declarations + "/>", four_mib) + "</r>";
+    for (auto const& [what, text] : {std::pair<char const*, std::string const*>{"4 MiB of elements of 256 attributes, read and digested", &attributes},
+                                     {"4 MiB of elements of 256 declarations, read and digested", &declarations}}) {
         byte_array const bytes(*text);
         std::thread([&, what = what] {
             heap_of(what, bytes.size(), [&] {
