@@ -228,9 +228,9 @@ void per_byte_of_input()
     std::thread([&] {
         heap_of("4 MiB status answer, read from SOAP to its document", answer_bytes.size(), [&] {
             velk::core::result::stack stack;
-            soap::message const read = soap::parse_response(answer_bytes, stack);
+            soap::message read = soap::parse_response(answer_bytes, stack);
             velk::xml::document const result =
-                soap::extract_result_document(read, {"nfeResultMsg", "nfeStatusServicoNFResult"}, stack);
+                soap::extract_result_document(std::move(read), {"nfeResultMsg", "nfeStatusServicoNFResult"}, stack);
         });
     }).join();
 

@@ -67,7 +67,7 @@ private:
     std::vector<std::pair<xmlNs const*, std::shared_ptr<std::string const>>> known_;
 };
 
-element convert_element(xmlNode const& source, shared_uris& uris)
+element convert_element(xmlNode& source, shared_uris& uris)
 {
     auto contents = std::make_unique<element_access::contents_type>();
     contents->set_name(qualified_name(source.ns, source.name));
@@ -88,7 +88,10 @@ element convert_element(xmlNode const& source, shared_uris& uris)
         }
     }
     auto& children = contents->children;
-    for (xmlNode const* child = source.children; child != nullptr; child = child->next) {
+    // Each child goes back to libxml2 as soon as it is converted: the parsed
+    // tree shrinks as this one grows, and the two are never both whole.
+    for (xmlNode* child = source.children; child != nullptr;) {
+        xmlNode* const next = child->next;
         switch (child->type) {
         case XML_ELEMENT_NODE:
             children.emplace_back(convert_element(*child, uris));
@@ -109,13 +112,16 @@ element convert_element(xmlNode const& source, shared_uris& uris)
             // Entity references and DTD nodes need a DTD, which the parser refuses.
             break;
         }
+        xmlUnlinkNode(child);
+        xmlFreeNode(child);
+        child = next;
     }
     return element_access::make(std::move(contents));
 }
 
 }  // namespace
 
-element tree_converter::convert(_xmlNode const& root)
+element tree_converter::convert(_xmlNode& root)
 {
     shared_uris uris;
     return convert_element(root, uris);

@@ -10,10 +10,11 @@ namespace detail {
 
 // Turns a parsed libxml2 element into this library's tree: names as written,
 // resolved namespaces, declarations, attributes in document order, and text,
-// CDATA, comments and processing instructions as they came.
+// CDATA, comments and processing instructions as they came. What lies below
+// root is freed as it is converted: root is left without children.
 class tree_converter {
 public:
-    static element convert(_xmlNode const& root);
+    static element convert(_xmlNode& root);
 };
 
 }  // namespace detail

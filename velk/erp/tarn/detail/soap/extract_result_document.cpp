@@ -4,10 +4,11 @@
 #include <velk/erp/tarn/nfe/processo_recuperar_resposta_result_category.hpp>
 
 #include <algorithm>
+#include <utility>
 
 namespace velk::erp::inline v4::tarn::detail::soap {
 
-xml::document extract_result_document(message const& response, std::vector<std::string> const& valid_names,
+xml::document extract_result_document(message response, std::vector<std::string> const& valid_names,
                                       core::result::stack& result)
 {
     using processo = nfe::processo_recuperar_resposta_result_category;
@@ -15,7 +16,7 @@ xml::document extract_result_document(message const& response, std::vector<std::
         core::result::fresh<processo::numero_body_invalido>(result, response.body.size());
         return xml::document();
     }
-    body_element const& result_tag = response.body.front();
+    body_element& result_tag = response.body.front();
     if (std::find(valid_names.begin(), valid_names.end(), result_tag.name) == valid_names.end()) {
         core::result::fresh<processo::elemento_nao_identificado>(result, result_tag.name, valid_names);
         return xml::document();
@@ -25,7 +26,7 @@ xml::document extract_result_document(message const& response, std::vector<std::
         return xml::document();
     }
     xml::document document;
-    if (!document.append_node(result_tag.children.front(), result)) {
+    if (!document.append_node(std::move(result_tag.children.front()), result)) {
         return xml::document();
     }
     return document;

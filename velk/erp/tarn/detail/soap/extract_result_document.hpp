@@ -13,8 +13,9 @@ namespace velk::erp::inline v4::tarn::detail::soap {
 // tag, named as one of `valid_names` (compared exactly), holding exactly one
 // tree, which becomes the document's root (retConsStatServ, for instance).
 // Refusals are fresh reports of processo_recuperar_resposta_result_category
-// codes 1, 2 and 3, and give an empty document.
-xml::document extract_result_document(message const& response, std::vector<std::string> const& valid_names,
+// codes 1, 2 and 3, and give an empty document. The tree is moved out of the
+// answer, which a caller hands over with std::move to spare a copy.
+xml::document extract_result_document(message response, std::vector<std::string> const& valid_names,
                                       core::result::stack& result);
 
 }  // namespace velk::erp::inline v4::tarn::detail::soap

@@ -6,6 +6,8 @@
 #include <velk/xml/document.hpp>
 #include <velk/xml/node.hpp>
 
+#include <utility>
+
 namespace velk::erp::inline v4::tarn::detail::soap {
 
 namespace {
@@ -34,7 +36,9 @@ message parse_response(core::byte_array const& bytes, core::result::stack& resul
         core::result::chain<servico::soap_invalido>(result, "A receita não respondeu um xml válido", bytes);
         return message();
     }
-    xml::element const* envelope = document.get_root_element();
+    // The trees of the answer are moved out of the document, not copied: an
+    // answer of megabytes is held once.
+    xml::element* envelope = document.get_root_element();
     if (envelope == nullptr) {
         return refuse("root-element não encontrado");
     }
@@ -42,9 +46,9 @@ message parse_response(core::byte_array const& bytes, core::result::stack& resul
         return refuse("root-element não é um 'Envelope'");
     }
 
-    xml::element const* body = nullptr;
-    for (xml::node const& child : envelope->get_node_range()) {
-        xml::element const* part = child.as_element();
+    xml::element* body = nullptr;
+    for (xml::node& child : envelope->get_node_range()) {
+        xml::element* part = child.as_element();
         if (part != nullptr && part->get_name() == "Body") {
             if (body != nullptr) {
                 return refuse("Foi encontrado mais de um body na mesma resposta da receita");
@@ -59,8 +63,8 @@ message parse_response(core::byte_array const& bytes, core::result::stack& resul
     }
 
     message answer;
-    for (xml::node const& child : body->get_node_range()) {
-        xml::element const* part = child.as_element();
+    for (xml::node& child : body->get_node_range()) {
+        xml::element* part = child.as_element();
         if (part == nullptr) {
             return refuse("O child node do 'Body' encontrado não é um element válido");
         }
@@ -69,12 +73,12 @@ message parse_response(core::byte_array const& bytes, core::result::stack& resul
             return message();
         }
         body_element result_tag(part->get_name(), "");
-        for (xml::node const& inner : part->get_node_range()) {
-            xml::element const* tree = inner.as_element();
+        for (xml::node& inner : part->get_node_range()) {
+            xml::element* tree = inner.as_element();
             if (tree == nullptr) {
                 return refuse("O child node do '" + part->get_name() + "' encontrado não é um element válido");
             }
-            result_tag.children.push_back(*tree);
+            result_tag.children.push_back(std::move(*tree));
         }
         answer.body.push_back(std::move(result_tag));
     }

@@ -4,6 +4,8 @@
 #include <velk/erp/tarn/detail/soap/extract_result_document.hpp>
 #include <velk/erp/tarn/detail/soap/make_message.hpp>
 
+#include <utility>
+
 namespace velk::erp::inline v4::tarn::nfe::servico {
 
 struct servico_base::impl {
@@ -67,12 +69,12 @@ xml::document servico_base::exchange(tarn::detail::soap::message const& request,
                                      std::vector<std::string> const& valid_names, core::result::stack& result) const
 {
     tarn::detail::soap::connection const link(impl_->proxy, impl_->timeout, impl_->auth);
-    tarn::detail::soap::message const answer =
+    tarn::detail::soap::message answer =
         link.send(request, servidor.get_endpoint_url(), servidor.get_action_url(), result);
     if (result.has_failed()) {
         return xml::document();
     }
-    xml::document document = tarn::detail::soap::extract_result_document(answer, valid_names, result);
+    xml::document document = tarn::detail::soap::extract_result_document(std::move(answer), valid_names, result);
     if (result.has_failed()) {
         core::result::chain<servico_result_category::resposta_nao_identificada>(result);
         return xml::document();
