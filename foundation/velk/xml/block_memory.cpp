@@ -52,6 +52,8 @@ struct release_at_exit {
 
 thread_local release_at_exit releaser;
 
+// The shelf of a size; none (shelf_count or more) for 0, which wraps around,
+// and for sizes beyond the last step.
 constexpr std::size_t shelf_of(std::size_t size)
 {
     return (size + step - 1) / step - 1;
@@ -76,7 +78,7 @@ constexpr bool keep_pieces = true;
 void* block_memory::take(std::size_t size)
 {
     std::size_t const shelf = shelf_of(size);
-    if (!keep_pieces || size == 0 || shelf >= shelf_count) {
+    if (!keep_pieces || shelf >= shelf_count) {
         return ::operator new(size);
     }
     shelves& mine = kept;
@@ -95,7 +97,7 @@ void block_memory::give(void* block, std::size_t size) noexcept
         return;
     }
     std::size_t const shelf = shelf_of(size);
-    if (!keep_pieces || size == 0 || shelf >= shelf_count) {
+    if (!keep_pieces || shelf >= shelf_count) {
         ::operator delete(block);
         return;
     }

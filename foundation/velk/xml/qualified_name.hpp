@@ -14,5 +14,10 @@ inline namespace v3 {
 // takes and refuses exactly the names the tree does.
 VELK_EXPORT bool is_qualified_name(std::string_view name);
 
+// The parts of a qualified name around its first ":": the prefix (empty when
+// there is none) and the local part (the whole name when there is no prefix).
+VELK_EXPORT std::string_view prefix_of(std::string_view qualified_name);
+VELK_EXPORT std::string_view local_part_of(std::string_view qualified_name);
+
 }  // namespace v3
 }  // namespace velk::xml

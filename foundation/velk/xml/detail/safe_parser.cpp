@@ -7,7 +7,6 @@
 #include <velk/xml/xml_result_category.hpp>
 
 #include <libxml/parser.h>
-#include <libxml/SAX2.h>
 #include <libxml/parserInternals.h>
 #include <libxml/tree.h>
 
@@ -28,25 +27,38 @@ namespace {
 constexpr int parse_options = XML_PARSE_NONET | XML_PARSE_COMPACT;
 
 // No element of a fiscal message has more than a few attributes and
-// declarations. libxml2 appends each attribute of an element by walking
-// those before it, so thousands of them would cost a time that grows with
-// their square: an element beyond this is refused before its tree is made.
+// declarations. libxml2 checks each declaration of an element against those
+// before it, and appends each attribute by walking those before it, so
+// thousands of either would cost a time that grows with their square: an
+// element beyond this many of either is refused before libxml2 sees it.
 constexpr int most_attributes = 256;
 
 struct parse_state {
     bool document_type_seen = false;
-    bool too_many_attributes = false;
 };
 
-// libxml2 also checks each declaration of an element against those before
-// it, before any handler is called: the start tags are counted first, in one
-// pass, and a tag with more "=" outside its quoted values than both limits
-// allow is refused before libxml2 sees it. Comments, CDATA sections,
-// processing instructions and a DOCTYPE are passed over; texts are outside
-// any tag. Gives the line of the first tag beyond them, or 0 when none is.
+// Whether the name that ends at `end` (blanks before "=" passed over) is a
+// namespace declaration: "xmlns" or "xmlns:...".
+bool declares_namespace(std::string_view text, std::size_t end)
+{
+    while (end > 0 && (text[end - 1] == ' ' || text[end - 1] == '\t' || text[end - 1] == '\n' || text[end - 1] == '\r')) {
+        --end;
+    }
+    std::size_t start = end;
+    while (start > 0 && text[start - 1] != ' ' && text[start - 1] != '\t' && text[start - 1] != '\n' &&
+           text[start - 1] != '\r' && text[start - 1] != '"' && text[start - 1] != '\'') {
+        --start;
+    }
+    std::string_view const name = text.substr(start, end - start);
+    return name == "xmlns" || name.substr(0, 6) == "xmlns:";
+}
+
+// The start tags counted in one pass: each "=" outside a quoted value is an
+// attribute or a declaration. Comments, CDATA sections, processing
+// instructions and a DOCTYPE are passed over; texts are outside any tag.
+// Gives the line of the first tag beyond the limit, or 0 when none is.
 int line_beyond_limits(std::string_view text)
 {
-    constexpr int most_equals = 2 * most_attributes;
     auto skip_past = [&](std::size_t from, std::string_view end) {
         std::size_t const found = text.find(end, from);
         return found == std::string_view::npos ? text.size() : found + end.size();
@@ -63,7 +75,8 @@ int line_beyond_limits(std::string_view text)
         } else if (rest.substr(0, 2) == "<!" || rest.substr(0, 2) == "</") {
             index = skip_past(index + 2, ">");
         } else {
-            int equals = 0;
+            int attributes = 0;
+            int declarations = 0;
             char quote = 0;
             for (++index; index < text.size(); ++index) {
                 char const c = text[index];
@@ -72,7 +85,8 @@ int line_beyond_limits(std::string_view text)
                 } else if (c == '"' || c == '\'') {
                     quote = c;
                 } else if (c == '=') {
-                    if (++equals > most_equals) {
+                    int& count = declares_namespace(text, index) ? declarations : attributes;
+                    if (++count > most_attributes) {
                         auto const lines = std::count(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(index), '\n');
                         return static_cast<int>(lines) + 1;
                     }
@@ -83,20 +97,6 @@ int line_beyond_limits(std::string_view text)
         }
     }
     return 0;
-}
-
-void start_element(void* context, xmlChar const* local_name, xmlChar const* prefix, xmlChar const* uri,
-                   int namespace_count, xmlChar const** namespaces, int attribute_count, int defaulted_count,
-                   xmlChar const** attributes)
-{
-    auto* parser = static_cast<xmlParserCtxtPtr>(context);
-    if (attribute_count > most_attributes || namespace_count > most_attributes) {
-        static_cast<parse_state*>(parser->_private)->too_many_attributes = true;
-        xmlStopParser(parser);
-        return;
-    }
-    xmlSAX2StartElementNs(context, local_name, prefix, uri, namespace_count, namespaces, attribute_count,
-                          defaulted_count, attributes);
 }
 
 // Called with the DOCTYPE's name and external identifiers, before its
@@ -118,13 +118,6 @@ void report_malformed(core::result::stack& stack, libxml2_session const& session
     core::result::fresh<xml_result_category::malformed>(stack, description, std::to_string(session.get_line()));
 }
 
-void report_too_many_attributes(core::result::stack& stack, std::string const& line)
-{
-    core::result::fresh<xml_result_category::malformed>(
-        stack, "Element with more than " + std::to_string(most_attributes) + " attributes or namespace declarations",
-        line);
-}
-
 }  // namespace
 
 void libxml2_document_deleter::operator()(_xmlDoc* document) const
@@ -141,7 +134,9 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
     }
     if (int const line = line_beyond_limits(std::string_view(reinterpret_cast<char const*>(bytes.data()), bytes.size()));
         line != 0) {
-        report_too_many_attributes(stack, std::to_string(line));
+        core::result::fresh<xml_result_category::malformed>(
+            stack, "Element with more than " + std::to_string(most_attributes) + " attributes or namespace declarations",
+            std::to_string(line));
         return nullptr;
     }
     std::unique_ptr<xmlParserCtxt, parser_deleter> parser(
@@ -159,7 +154,6 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
     parser->sax->externalSubset = nullptr;
     parser->sax->entityDecl = nullptr;
     parser->sax->unparsedEntityDecl = nullptr;
-    parser->sax->startElementNs = &start_element;
 
     xmlParseDocument(parser.get());
     libxml2_document document(parser->myDoc);
@@ -167,10 +161,6 @@ libxml2_document safe_parser::parse(core::byte_array const& bytes, core::result:
 
     if (state.document_type_seen || (document && (document->intSubset != nullptr || document->extSubset != nullptr))) {
         core::result::fresh<xml_result_category::dtd_declared>(stack);
-        return nullptr;
-    }
-    if (state.too_many_attributes) {
-        report_too_many_attributes(stack, std::to_string(xmlSAX2GetLineNumber(parser.get())));
         return nullptr;
     }
     if (session.has_error() || !parser->wellFormed || !document || xmlDocGetRootElement(document.get()) == nullptr ||

@@ -23,18 +23,6 @@ constexpr std::string_view xml_namespace = "http://www.w3.org/XML/1998/namespace
 // hashed as it is written instead of held whole.
 constexpr std::size_t piece_size = 16 * 1024;
 
-std::string_view prefix_of(std::string_view qualified_name)
-{
-    std::size_t const colon = qualified_name.find(':');
-    return colon == std::string_view::npos ? std::string_view() : qualified_name.substr(0, colon);
-}
-
-std::string_view local_part_of(std::string_view qualified_name)
-{
-    std::size_t const colon = qualified_name.find(':');
-    return colon == std::string_view::npos ? qualified_name : qualified_name.substr(colon + 1);
-}
-
 // What the canonical form escapes, by byte: in texts, in attribute values, or
 // in both.
 enum escape_kind : unsigned char { in_text = 1, in_attribute = 2 };
@@ -209,10 +197,10 @@ bool canonical_serializer::write_apex(subtree const& what)
     for (std::size_t index = what.ancestors.size(); index-- > 0;) {
         for (velk::xml::attribute const& property : what.ancestors[index]->get_attributes()) {
             std::string_view const name = property.get_name();
-            if (prefix_of(name) != "xml") {
+            if (velk::xml::prefix_of(name) != "xml") {
                 continue;
             }
-            std::string_view const local = local_part_of(name);
+            std::string_view const local = velk::xml::local_part_of(name);
             bool const present = std::any_of(attributes_.begin(), attributes_.end(), [&](attribute_entry const& entry) {
                 return entry.uri == xml_namespace && entry.local == local;
             });
@@ -328,7 +316,7 @@ void canonical_serializer::gather_attributes(velk::xml::element const& value)
     attributes_.clear();
     for (velk::xml::attribute const& property : value.get_attributes()) {
         std::string_view const name = property.get_name();
-        std::string_view const prefix = prefix_of(name);
+        std::string_view const prefix = velk::xml::prefix_of(name);
         std::string_view uri;
         if (prefix == "xml") {
             uri = xml_namespace;
@@ -339,7 +327,7 @@ void canonical_serializer::gather_attributes(velk::xml::element const& value)
                 uri = found->uri;
             }
         }
-        attributes_.push_back({name, uri.empty() ? name : local_part_of(name), uri, &property.get_value()});
+        attributes_.push_back({name, uri.empty() ? name : velk::xml::local_part_of(name), uri, &property.get_value()});
     }
 }
 

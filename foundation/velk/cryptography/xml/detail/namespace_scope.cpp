@@ -1,21 +1,13 @@
 #include <velk/cryptography/xml/detail/namespace_scope.hpp>
 
+#include <velk/xml/qualified_name.hpp>
+
 #include <string>
 
 namespace velk::cryptography {
 inline namespace v3 {
 namespace xml {
 namespace detail {
-
-namespace {
-
-std::string_view prefix_of(std::string const& qualified_name)
-{
-    std::size_t const colon = qualified_name.find(':');
-    return colon == std::string::npos ? std::string_view() : std::string_view(qualified_name).substr(0, colon);
-}
-
-}  // namespace
 
 std::string_view element_prefix(velk::xml::element const& value)
 {
@@ -36,7 +28,7 @@ void namespace_scope::enter(velk::xml::element const& value)
     declare_if_needed(mark, element_prefix(value), value.get_namespace_uri());
     for (velk::xml::attribute const& property : value.get_attributes()) {
         // An unprefixed attribute is in no namespace, whatever the default.
-        std::string_view const prefix = prefix_of(property.get_name());
+        std::string_view const prefix = velk::xml::prefix_of(property.get_name());
         if (!prefix.empty() && !property.get_namespace_uri().empty()) {
             declare_if_needed(mark, prefix, property.get_namespace_uri());
         }
