@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <cstring>
 #include <limits>
 #include <string>
 #include <utility>
@@ -12,6 +14,10 @@
 namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
 
 namespace {
+
+// The binary form's fixed-width numbers are little-endian, as they are in
+// memory here.
+static_assert(std::endian::native == std::endian::little);
 
 using google::protobuf::Descriptor;
 using google::protobuf::FieldDescriptor;
@@ -179,10 +185,12 @@ bool excede_para_cima(std::string_view texto)
 
 class leitura {
 public:
-    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, leitor_json::fabrica& fabrica,
-            std::string_view texto)
-        : tipos_(tipos), fabrica_(fabrica), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
+    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, std::string_view texto)
+        : tipos_(tipos), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
     {
+        // The binary form of a note is nearly always shorter than its text:
+        // the keys become a byte or two.
+        bytes_.resize(texto.size() / 2 + 64);
     }
 
     bool documento(Message& mensagem)
@@ -196,15 +204,21 @@ public:
         if (achado == tipos_.end()) {
             return falha(std::string("no JSON form known for ") + std::string(descritor->full_name()));
         }
-        // The messages of a generated type share their type's reflection;
-        // another kind of message is asked for its own.
-        reflexao_do_tipo_ = achado->second.reflexao != nullptr && achado->second.reflexao == mensagem.GetReflection();
-        if (!objeto(mensagem, achado->second, 1)) {
+        if (!objeto(achado->second, 1)) {
             return false;
         }
         pular_espaco();
         if (p_ != fim_) {
             return falha("text after the end of the note");
+        }
+        // The text becomes the message's binary form and the message's own
+        // parser reads that: far cheaper than a reflection call per value,
+        // and with the same outcome, since the binary form merges repeated
+        // occurrences of a field the same way (the last scalar kept, the
+        // messages merged, the repeated appended, a oneof's last member
+        // kept).
+        if (!mensagem.ParsePartialFromArray(bytes_.data(), static_cast<int>(usado_))) {
+            return falha("the note does not fit its message");
         }
         return true;
     }
@@ -225,9 +239,79 @@ private:
         return falha(std::string(campo.descritor->name()) + ": " + std::string(texto));
     }
 
-    Reflection const& reflexao(Message& mensagem, tipo_lido const& tipo) const
+    // The binary form is written at the end of `bytes_`, whose first
+    // `usado_` bytes are taken; the rest is room, grown on demand.
+    char* espaco_para(std::size_t n)
     {
-        return reflexao_do_tipo_ ? *tipo.reflexao : *mensagem.GetReflection();
+        if (bytes_.size() - usado_ < n) {
+            bytes_.resize(std::max(bytes_.size() * 2, usado_ + n));
+        }
+        return bytes_.data() + usado_;
+    }
+
+    void varint(std::uint64_t valor)
+    {
+        char* const comeco = espaco_para(10);
+        char* p = comeco;
+        while (valor >= 0x80) {
+            *p++ = static_cast<char>(valor | 0x80);
+            valor >>= 7;
+        }
+        *p++ = static_cast<char>(valor);
+        usado_ += static_cast<std::size_t>(p - comeco);
+    }
+
+    void fixo(void const* valor, std::size_t tamanho)
+    {
+        std::memcpy(espaco_para(tamanho), valor, tamanho);
+        usado_ += tamanho;
+    }
+
+    void etiqueta(campo_lido const& campo)
+    {
+        std::memcpy(espaco_para(sizeof campo.etiqueta), campo.etiqueta.data(), sizeof campo.etiqueta);
+        usado_ += campo.tamanho_etiqueta;
+    }
+
+    void delimitado(std::string_view valor)
+    {
+        varint(valor.size());
+        fixo(valor.data(), valor.size());
+    }
+
+    // The length of a message is written before it but known only after:
+    // `reservados` bytes are kept for it and the message written after them
+    // (the start of which is returned).
+    std::size_t abrir(std::size_t reservados)
+    {
+        espaco_para(reservados);
+        usado_ += reservados;
+        return usado_;
+    }
+
+    // The length of the message started at `comeco` set in the bytes kept
+    // for it: a varint padded to their width when it fits (parsers take a
+    // padded varint), otherwise the message is moved to make room.
+    void fechar(std::size_t comeco, std::size_t reservados)
+    {
+        std::size_t tamanho = usado_ - comeco;
+        std::size_t largura = 1;
+        while (largura < 10 && (tamanho >> (7 * largura)) != 0) {
+            ++largura;
+        }
+        if (largura > reservados) {
+            std::size_t const mais = largura - reservados;
+            espaco_para(mais);
+            std::memmove(bytes_.data() + comeco + mais, bytes_.data() + comeco, tamanho);
+            usado_ += mais;
+            reservados = largura;
+        }
+        char* p = bytes_.data() + comeco - reservados;
+        for (std::size_t i = 1; i < reservados; ++i) {
+            *p++ = static_cast<char>(tamanho | 0x80);
+            tamanho >>= 7;
+        }
+        *p = static_cast<char>(tamanho);
     }
 
     void pular_espaco()
@@ -389,13 +473,13 @@ private:
         return true;
     }
 
-    bool objeto(Message& mensagem, tipo_lido const& tipo, int profundidade)
+    bool objeto(tipo_lido const& tipo, int profundidade)
     {
         if (profundidade > leitor_json::profundidade_maxima) {
             return falha("message too deep");
         }
         if (tipo.desconhecido) {
-            return falha(std::string("no JSON form known for ") + std::string(mensagem.GetDescriptor()->full_name()));
+            return falha(std::string("no JSON form known for ") + std::string(tipo.descritor->full_name()));
         }
         ++p_;
         std::uint64_t oneofs = 0;
@@ -420,7 +504,7 @@ private:
             if (campo == nullptr) {
                 return falha(std::string(chave_lida) + ": cannot find field");
             }
-            if (!valor_do_campo(mensagem, tipo, *campo, oneofs, profundidade)) {
+            if (!valor_do_campo(*campo, oneofs, profundidade)) {
                 return false;
             }
             pular_espaco();
@@ -432,8 +516,7 @@ private:
         }
     }
 
-    bool valor_do_campo(Message& mensagem, tipo_lido const& tipo, campo_lido const& campo, std::uint64_t& oneofs,
-                        int profundidade)
+    bool valor_do_campo(campo_lido const& campo, std::uint64_t& oneofs, int profundidade)
     {
         if (p_ == fim_) {
             return falha("expected a value");
@@ -446,10 +529,10 @@ private:
             if (!campo.repetido) {
                 return falha_campo(campo, "field is not repeated, cannot start a list");
             }
-            return lista(mensagem, tipo, campo, profundidade);
+            return lista(campo, profundidade);
         }
         if (campo.repetido) {
-            return elemento(mensagem, tipo, campo, profundidade);
+            return elemento(campo, profundidade);
         }
         if (campo.oneof >= 0) {
             std::uint64_t const bit = std::uint64_t{1} << campo.oneof;
@@ -461,45 +544,70 @@ private:
             oneofs |= bit;
         }
         if (campo.tipo_cpp == FieldDescriptor::CPPTYPE_MESSAGE) {
-            return mensagem_do_valor(*reflexao(mensagem, tipo).MutableMessage(&mensagem, campo.descritor), campo,
-                                     profundidade);
+            return mensagem_do_valor(campo, profundidade);
         }
-        return escalar(mensagem, reflexao(mensagem, tipo), campo);
+        return escalar(campo);
     }
 
     // A message's value: an object, or the bare value of a wrapper.
-    bool mensagem_do_valor(Message& filha, campo_lido const& campo, int profundidade)
+    bool mensagem_do_valor(campo_lido const& campo, int profundidade)
     {
         tipo_lido const& tipo = *campo.mensagem;
         if (*p_ == '{') {
-            return objeto(filha, tipo, profundidade + 1);
+            etiqueta(campo);
+            if (campo.grupo) {
+                if (!objeto(tipo, profundidade + 1)) {
+                    return false;
+                }
+                fixo(campo.fim_do_grupo.data(), campo.tamanho_etiqueta);
+                return true;
+            }
+            // Most messages of a note are shorter than 2^14 bytes.
+            std::size_t const comeco = abrir(2);
+            if (!objeto(tipo, profundidade + 1)) {
+                return false;
+            }
+            fechar(comeco, 2);
+            return true;
         }
         if (!tipo.embrulho) {
             return falha_campo(campo, "a message is written as an object");
         }
-        return escalar(filha, reflexao(filha, tipo), tipo.lista.front());
+        etiqueta(campo);
+        if (campo.grupo) {
+            if (!escalar(tipo.lista.front())) {
+                return false;
+            }
+            fixo(campo.fim_do_grupo.data(), campo.tamanho_etiqueta);
+            return true;
+        }
+        // A wrapper's bare value: most are shorter than 128 bytes.
+        std::size_t const comeco = abrir(1);
+        if (!escalar(tipo.lista.front())) {
+            return false;
+        }
+        fechar(comeco, 1);
+        return true;
     }
 
     // One element of a repeated field.
-    bool elemento(Message& mensagem, tipo_lido const& tipo, campo_lido const& campo, int profundidade)
+    bool elemento(campo_lido const& campo, int profundidade)
     {
         if (campo.tipo_cpp == FieldDescriptor::CPPTYPE_MESSAGE) {
             if (*p_ != '{' && !campo.mensagem->embrulho) {
                 return falha_campo(campo, "a message is written as an object");
             }
-            google::protobuf::MessageFactory* const fabrica = reflexao_do_tipo_ ? &fabrica_ : nullptr;
-            return mensagem_do_valor(*reflexao(mensagem, tipo).AddMessage(&mensagem, campo.descritor, fabrica), campo,
-                                     profundidade);
+            return mensagem_do_valor(campo, profundidade);
         }
         if (*p_ == '{') {
             return falha_campo(campo, "starting an object on a scalar field");
         }
-        return escalar(mensagem, reflexao(mensagem, tipo), campo);
+        return escalar(campo);
     }
 
     // The values of a repeated field; arrays within it add their elements to
     // the same field, at any depth, as protobuf's reader does.
-    bool lista(Message& mensagem, tipo_lido const& tipo, campo_lido const& campo, int profundidade)
+    bool lista(campo_lido const& campo, int profundidade)
     {
         std::size_t abertas = 0;
         bool depois_de_valor = false;
@@ -539,7 +647,7 @@ private:
             }
             if (literal("null")) {
                 p_ += 4;
-            } else if (!elemento(mensagem, tipo, campo, profundidade)) {
+            } else if (!elemento(campo, profundidade)) {
                 return false;
             }
             depois_de_valor = true;
@@ -741,11 +849,10 @@ private:
         return bits < 6;
     }
 
-    // A scalar of a field, or of a wrapper's value, set or added.
-    bool escalar(Message& mensagem, Reflection const& r, campo_lido const& lido_do_campo)
+    // A scalar of a field, or of a wrapper's value, written with its tag.
+    bool escalar(campo_lido const& lido_do_campo)
     {
         FieldDescriptor const& campo = *lido_do_campo.descritor;
-        bool const repetido = lido_do_campo.repetido;
         numero lido;
         std::string_view vista;
         bool aspas = false;
@@ -779,7 +886,8 @@ private:
             if (lido_do_campo.tipo_cpp != FieldDescriptor::CPPTYPE_BOOL) {
                 return recusa();
             }
-            repetido ? r.AddBool(&mensagem, &campo, verdade) : r.SetBool(&mensagem, &campo, verdade);
+            etiqueta(lido_do_campo);
+            varint(verdade ? 1 : 0);
             return true;
         }
         switch (lido_do_campo.tipo_cpp) {
@@ -787,27 +895,24 @@ private:
             if (!aspas) {
                 return recusa();
             }
-            std::string valor;
             if (lido_do_campo.bytes) {
-                if (!base64(vista, valor)) {
+                if (!base64(vista, binario_)) {
                     return recusa();
                 }
-            } else {
-                valor.assign(vista);
+                vista = binario_;
             }
-            repetido ? r.AddString(&mensagem, &campo, std::move(valor))
-                     : r.SetString(&mensagem, &campo, std::move(valor));
+            etiqueta(lido_do_campo);
+            delimitado(vista);
             return true;
         }
-        case FieldDescriptor::CPPTYPE_INT32: return inteiro_do_campo<std::int32_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
-        case FieldDescriptor::CPPTYPE_UINT32: return inteiro_do_campo<std::uint32_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
-        case FieldDescriptor::CPPTYPE_INT64: return inteiro_do_campo<std::int64_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
-        case FieldDescriptor::CPPTYPE_UINT64: return inteiro_do_campo<std::uint64_t>(mensagem, r, lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_INT32: return inteiro_do_campo<std::int32_t>(lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_UINT32: return inteiro_do_campo<std::uint32_t>(lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_INT64: return inteiro_do_campo<std::int64_t>(lido_do_campo, aspas, vista, lido, recusa);
+        case FieldDescriptor::CPPTYPE_UINT64: return inteiro_do_campo<std::uint64_t>(lido_do_campo, aspas, vista, lido, recusa);
         case FieldDescriptor::CPPTYPE_ENUM: {
-            int valor = 0;
+            std::int32_t valor = 0;
             if (aspas) {
-                auto const* const nomeado = lido_do_campo.enumeracao->FindValueByName(std::string(vista));
-                if (nomeado != nullptr) {
+                if (auto const* const nomeado = lido_do_campo.enumeracao->FindValueByName(std::string(vista))) {
                     valor = nomeado->number();
                 } else if (std::int32_t numero_lido = 0;
                            inteiro(vista, numero_lido) &&
@@ -821,7 +926,8 @@ private:
             } else {
                 return recusa();
             }
-            repetido ? r.AddEnumValue(&mensagem, &campo, valor) : r.SetEnumValue(&mensagem, &campo, valor);
+            etiqueta(lido_do_campo);
+            varint(static_cast<std::uint64_t>(static_cast<std::int64_t>(valor)));
             return true;
         }
         case FieldDescriptor::CPPTYPE_DOUBLE:
@@ -831,19 +937,22 @@ private:
                 return recusa();
             }
             if (lido_do_campo.tipo_cpp == FieldDescriptor::CPPTYPE_DOUBLE) {
-                repetido ? r.AddDouble(&mensagem, &campo, valor) : r.SetDouble(&mensagem, &campo, valor);
+                etiqueta(lido_do_campo);
+                fixo(&valor, sizeof valor);
             } else {
                 if (std::isfinite(valor) && std::abs(valor) > std::numeric_limits<float>::max()) {
                     return recusa();
                 }
                 auto const curto = static_cast<float>(valor);
-                repetido ? r.AddFloat(&mensagem, &campo, curto) : r.SetFloat(&mensagem, &campo, curto);
+                etiqueta(lido_do_campo);
+                fixo(&curto, sizeof curto);
             }
             return true;
         }
         case FieldDescriptor::CPPTYPE_BOOL:
             if (aspas && (vista == "true" || vista == "false")) {
-                repetido ? r.AddBool(&mensagem, &campo, vista == "true") : r.SetBool(&mensagem, &campo, vista == "true");
+                etiqueta(lido_do_campo);
+                varint(vista == "true" ? 1 : 0);
                 return true;
             }
             return recusa();
@@ -853,36 +962,77 @@ private:
     }
 
     template <class T, class Recusa>
-    bool inteiro_do_campo(Message& mensagem, Reflection const& r, campo_lido const& lido_do_campo, bool aspas,
-                          std::string_view vista, numero const& lido, Recusa const& recusa)
+    bool inteiro_do_campo(campo_lido const& lido_do_campo, bool aspas, std::string_view vista, numero const& lido,
+                          Recusa const& recusa)
     {
         T valor{};
         if (!(aspas ? inteiro(vista, valor) : inteiro(lido, valor))) {
             return recusa();
         }
-        FieldDescriptor const& campo = *lido_do_campo.descritor;
-        bool const repetido = lido_do_campo.repetido;
-        if constexpr (std::is_same_v<T, std::int32_t>) {
-            repetido ? r.AddInt32(&mensagem, &campo, valor) : r.SetInt32(&mensagem, &campo, valor);
-        } else if constexpr (std::is_same_v<T, std::uint32_t>) {
-            repetido ? r.AddUInt32(&mensagem, &campo, valor) : r.SetUInt32(&mensagem, &campo, valor);
-        } else if constexpr (std::is_same_v<T, std::int64_t>) {
-            repetido ? r.AddInt64(&mensagem, &campo, valor) : r.SetInt64(&mensagem, &campo, valor);
-        } else {
-            repetido ? r.AddUInt64(&mensagem, &campo, valor) : r.SetUInt64(&mensagem, &campo, valor);
+        etiqueta(lido_do_campo);
+        using sem_sinal = std::make_unsigned_t<T>;
+        switch (lido_do_campo.tipo_campo) {
+        case FieldDescriptor::TYPE_SINT32:
+        case FieldDescriptor::TYPE_SINT64:
+            // Zigzag: the sign in the lowest bit.
+            if constexpr (std::is_signed_v<T>) {
+                auto const bits = static_cast<sem_sinal>(valor);
+                varint(static_cast<sem_sinal>((bits << 1) ^ (valor < 0 ? ~sem_sinal{} : sem_sinal{})));
+            }
+            break;
+        case FieldDescriptor::TYPE_FIXED32:
+        case FieldDescriptor::TYPE_SFIXED32:
+        case FieldDescriptor::TYPE_FIXED64:
+        case FieldDescriptor::TYPE_SFIXED64: fixo(&valor, sizeof valor); break;
+        default:
+            // A negative 32-bit value takes all ten bytes, as if of 64 bits.
+            varint(static_cast<std::uint64_t>(static_cast<std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>>(valor)));
+            break;
         }
         return true;
     }
 
     std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos_;
-    leitor_json::fabrica& fabrica_;
-    bool reflexao_do_tipo_ = false;
     char const* const inicio_;
     char const* p_;
     char const* const fim_;
     std::string texto_;
+    std::string binario_;
     std::string motivo_;
+    // The binary form of the note; see espaco_para.
+    std::string bytes_;
+    std::size_t usado_ = 0;
 };
+
+// The wire type of a field's values: how the binary form delimits them.
+std::uint32_t tipo_no_fio(FieldDescriptor::Type tipo)
+{
+    switch (tipo) {
+    case FieldDescriptor::TYPE_DOUBLE:
+    case FieldDescriptor::TYPE_FIXED64:
+    case FieldDescriptor::TYPE_SFIXED64: return 1;
+    case FieldDescriptor::TYPE_STRING:
+    case FieldDescriptor::TYPE_BYTES:
+    case FieldDescriptor::TYPE_MESSAGE: return 2;
+    case FieldDescriptor::TYPE_GROUP: return 3;
+    case FieldDescriptor::TYPE_FLOAT:
+    case FieldDescriptor::TYPE_FIXED32:
+    case FieldDescriptor::TYPE_SFIXED32: return 5;
+    default: return 0;
+    }
+}
+
+// A tag as a varint; its length.
+std::size_t etiquetar(std::array<char, 5>& bytes, std::uint32_t valor)
+{
+    std::size_t n = 0;
+    while (valor >= 0x80) {
+        bytes[n++] = static_cast<char>(valor | 0x80);
+        valor >>= 7;
+    }
+    bytes[n++] = static_cast<char>(valor);
+    return n;
+}
 
 }  // namespace
 
@@ -906,16 +1056,21 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     }
     // One bit per oneof in the reading of an object.
     novo.desconhecido = novo.desconhecido || descritor.oneof_decl_count() > 64;
-    if (Message const* prototipo = google::protobuf::MessageFactory::generated_factory()->GetPrototype(&descritor)) {
-        novo.prototipo = prototipo;
-        novo.reflexao = prototipo->GetReflection();
-    }
+    novo.descritor = &descritor;
     novo.lista.resize(static_cast<std::size_t>(descritor.field_count()));
     for (int i = 0; i < descritor.field_count(); ++i) {
         FieldDescriptor const* const descritor_campo = descritor.field(i);
         campo& lido = novo.lista[static_cast<std::size_t>(i)];
         lido.descritor = descritor_campo;
         lido.tipo_cpp = descritor_campo->cpp_type();
+        lido.tipo_campo = descritor_campo->type();
+        lido.grupo = lido.tipo_campo == FieldDescriptor::TYPE_GROUP;
+        auto const numero = static_cast<std::uint32_t>(descritor_campo->number());
+        lido.tamanho_etiqueta = static_cast<unsigned char>(
+            etiquetar(lido.etiqueta, (numero << 3) | tipo_no_fio(lido.tipo_campo)));
+        if (lido.grupo) {
+            etiquetar(lido.fim_do_grupo, (numero << 3) | 4);
+        }
         lido.repetido = descritor_campo->is_repeated();
         lido.bytes = descritor_campo->type() == FieldDescriptor::TYPE_BYTES;
         lido.oneof = descritor_campo->containing_oneof() == nullptr ? -1 : descritor_campo->containing_oneof()->index();
@@ -993,15 +1148,9 @@ leitor_json::campo const* leitor_json::campos_por_nome::achar(std::string_view n
     }
 }
 
-Message const* leitor_json::fabrica::GetPrototype(Descriptor const* tipo)
-{
-    auto const achado = tipos_.find(tipo);
-    return achado == tipos_.end() ? nullptr : achado->second.prototipo;
-}
-
 bool leitor_json::ler(std::string_view texto, Message& mensagem, std::string& motivo) const
 {
-    leitura leitura(tipos_, fabrica_, texto);
+    leitura leitura(tipos_, texto);
     if (leitura.documento(mensagem)) {
         return true;
     }

@@ -1,8 +1,9 @@
 #pragma once
 
 // The reading of a note's JSON text straight into its message, in one pass
-// and without an intermediate tree: the text is walked once and every value
-// is written through the message's reflection. The result is the one
+// and without an intermediate tree: the text is walked once and written in
+// the message's binary form, which the message's own parser then reads. The
+// result is the one
 // protobuf's own JSON mapping gives for the same text (its default options),
 // leniencies of its reader included: single-quoted strings, unquoted keys,
 // a comma before a closing bracket, nested arrays flattened into a repeated
@@ -12,6 +13,7 @@
 #include <google/protobuf/descriptor.h>
 #include <google/protobuf/message.h>
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -27,7 +29,8 @@ public:
     leitor_json(leitor_json const&) = delete;
     leitor_json& operator=(leitor_json const&) = delete;
 
-    // Fills `mensagem` (of the root's type, expected cleared) from `texto`.
+    // Fills `mensagem` (of the root's type) from `texto`; what it held
+    // before is dropped.
     // On refusal, false and `motivo` says what and at which byte; `mensagem`
     // may then hold part of the text and is for the caller to clear.
     bool ler(std::string_view texto, google::protobuf::Message& mensagem, std::string& motivo) const;
@@ -43,6 +46,13 @@ public:
     struct campo {
         google::protobuf::FieldDescriptor const* descritor = nullptr;
         google::protobuf::FieldDescriptor::CppType tipo_cpp{};
+        google::protobuf::FieldDescriptor::Type tipo_campo{};
+        // The field's tag in the binary form, as a varint of
+        // `tamanho_etiqueta` bytes; for a group, the tag that ends it too.
+        std::array<char, 5> etiqueta{};
+        std::array<char, 5> fim_do_grupo{};
+        unsigned char tamanho_etiqueta = 0;
+        bool grupo = false;
         bool repetido = false;
         bool bytes = false;
         // The index of its oneof; -1 for none.
@@ -72,37 +82,19 @@ public:
     struct tipo {
         // The fields in the order of the descriptor.
         std::vector<campo> lista;
-        // The default message of a generated type; null for another.
-        google::protobuf::Message const* prototipo = nullptr;
+        google::protobuf::Descriptor const* descritor = nullptr;
         // By the name of the .proto file and by its lowerCamelCase form.
         campos_por_nome campos;
-        // The one reflection of the messages of a generated type; null for
-        // another.
-        google::protobuf::Reflection const* reflexao = nullptr;
         // google.protobuf's wrappers: written as their bare value as well.
         bool embrulho = false;
         // A well-known type whose JSON form this reader does not know.
         bool desconhecido = false;
     };
 
-    // The default messages of the indexed generated types, found without the
-    // lock protobuf's own factory takes on every question; null for another
-    // type. Given to reflection where it makes the first element of a
-    // repeated field.
-    class fabrica : public google::protobuf::MessageFactory {
-    public:
-        explicit fabrica(std::unordered_map<google::protobuf::Descriptor const*, tipo> const& tipos) : tipos_(tipos) {}
-        google::protobuf::Message const* GetPrototype(google::protobuf::Descriptor const* tipo) override;
-
-    private:
-        std::unordered_map<google::protobuf::Descriptor const*, tipo> const& tipos_;
-    };
-
 private:
     tipo& indexar(google::protobuf::Descriptor const& descritor);
 
     std::unordered_map<google::protobuf::Descriptor const*, tipo> tipos_;
-    mutable fabrica fabrica_{tipos_};
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail
