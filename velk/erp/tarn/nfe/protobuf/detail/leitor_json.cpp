@@ -11,6 +11,10 @@
 #include <string>
 #include <utility>
 
+#if defined(__SSE2__)
+#include <emmintrin.h>
+#endif
+
 namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
 
 namespace {
@@ -56,6 +60,113 @@ constexpr std::array<unsigned char, 256> classes = fazer_classes();
 bool espaco(char c)
 {
     return classes[static_cast<unsigned char>(c)] == espaco_em_branco;
+}
+
+// The first byte at or after `p` that is not whitespace: a newline and the
+// indentation after it, or the space after a colon, are taken 16 bytes at a
+// time where the machine can, without a branch per byte.
+char const* depois_do_espaco(char const* p, char const* fim)
+{
+#if defined(__SSE2__)
+    __m128i const espacos = _mm_set1_epi8(' ');
+    __m128i const tab = _mm_set1_epi8('\t');
+    // \t \n \v \f \r: the bytes 9 to 13, those whose distance from 9 is
+    // at most 4 unsigned.
+    __m128i const quatro = _mm_set1_epi8(4);
+    while (fim - p >= 16) {
+        __m128i const bloco = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p));
+        __m128i const distancia = _mm_sub_epi8(bloco, tab);
+        __m128i const brancos = _mm_or_si128(_mm_cmpeq_epi8(bloco, espacos),
+                                             _mm_cmpeq_epi8(_mm_min_epu8(distancia, quatro), distancia));
+        auto const outros = ~static_cast<unsigned>(_mm_movemask_epi8(brancos)) & 0xFFFFu;
+        if (outros != 0) {
+            return p + std::countr_zero(outros);
+        }
+        p += 16;
+    }
+#endif
+    while (p != fim && espaco(*p)) {
+        ++p;
+    }
+    return p;
+}
+
+// The first byte at or after `p` that the inside of a string stops at: a
+// quote, a backslash or a byte of a multibyte character; 16 bytes at a time
+// where the machine can.
+char const* ate_atencao_no_texto(char const* p, char const* fim)
+{
+#if defined(__SSE2__)
+    __m128i const aspas = _mm_set1_epi8('"');
+    __m128i const apostrofos = _mm_set1_epi8('\'');
+    __m128i const barras = _mm_set1_epi8('\\');
+    while (fim - p >= 16) {
+        __m128i const bloco = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p));
+        __m128i const achados = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bloco, aspas), _mm_cmpeq_epi8(bloco, apostrofos)),
+                                             _mm_cmpeq_epi8(bloco, barras));
+        // The high bit of every byte is taken as well: the bytes >= 0x80.
+        auto const paradas = static_cast<unsigned>(_mm_movemask_epi8(achados) | _mm_movemask_epi8(bloco));
+        if (paradas != 0) {
+            return p + std::countr_zero(paradas);
+        }
+        p += 16;
+    }
+#endif
+    while (p != fim && classes[static_cast<unsigned char>(*p)] != atencao_no_texto) {
+        ++p;
+    }
+    return p;
+}
+
+// Two runs of `n` bytes compared in words, without a call: the names of a
+// note's fields are short.
+bool mesmos_bytes(char const* a, char const* b, std::size_t n)
+{
+    auto const palavra = [](char const* p) {
+        std::uint64_t w;
+        std::memcpy(&w, p, sizeof w);
+        return w;
+    };
+    auto const meia = [](char const* p) {
+        std::uint32_t w;
+        std::memcpy(&w, p, sizeof w);
+        return w;
+    };
+    if (n >= 8) {
+        for (std::size_t i = 0; i + 8 < n; i += 8) {
+            if (palavra(a + i) != palavra(b + i)) {
+                return false;
+            }
+        }
+        return palavra(a + n - 8) == palavra(b + n - 8);
+    }
+    if (n >= 4) {
+        return meia(a) == meia(b) && meia(a + n - 4) == meia(b + n - 4);
+    }
+    for (std::size_t i = 0; i < n; ++i) {
+        if (a[i] != b[i]) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// Digits only, at least one, as a number that fits 64 bits.
+bool decimal(std::string_view digitos, std::uint64_t& valor)
+{
+    if (digitos.empty()) {
+        return false;
+    }
+    std::uint64_t acumulado = 0;
+    for (char const c : digitos) {
+        auto const algarismo = static_cast<unsigned char>(c - '0');
+        if (algarismo > 9 || __builtin_mul_overflow(acumulado, 10u, &acumulado) ||
+            __builtin_add_overflow(acumulado, algarismo, &acumulado)) {
+            return false;
+        }
+    }
+    valor = acumulado;
+    return true;
 }
 
 bool letra(char c)
@@ -185,12 +296,15 @@ bool excede_para_cima(std::string_view texto)
 
 class leitura {
 public:
-    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, std::string_view texto)
-        : tipos_(tipos), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size())
+    leitura(std::unordered_map<Descriptor const*, leitor_json::tipo> const& tipos, std::string_view texto,
+            std::string& bytes)
+        : tipos_(tipos), inicio_(texto.data()), p_(texto.data()), fim_(texto.data() + texto.size()), bytes_(bytes)
     {
         // The binary form of a note is nearly always shorter than its text:
         // the keys become a byte or two.
-        bytes_.resize(texto.size() / 2 + 64);
+        if (bytes_.size() < texto.size() / 2 + 64) {
+            bytes_.resize(texto.size() / 2 + 64);
+        }
     }
 
     bool documento(Message& mensagem)
@@ -316,12 +430,7 @@ private:
 
     void pular_espaco()
     {
-        // A local cursor: the member would be stored back at every byte.
-        char const* p = p_;
-        while (p != fim_ && espaco(*p)) {
-            ++p;
-        }
-        p_ = p;
+        p_ = depois_do_espaco(p_, fim_);
     }
 
     bool literal(std::string_view palavra) const
@@ -340,11 +449,7 @@ private:
         while (true) {
             // A run that needs nothing but copying when there was an escape.
             char const* const corrida = p_;
-            char const* p = p_;
-            while (p != fim_ && classes[static_cast<unsigned char>(*p)] != atencao_no_texto) {
-                ++p;
-            }
-            p_ = p;
+            p_ = ate_atencao_no_texto(p_, fim_);
             if (copiado) {
                 saida.append(corrida, p_);
             }
@@ -669,17 +774,17 @@ private:
             if (vista.size() >= zero + 2 && vista[zero] == '0') {
                 return falha("octal or hexadecimal numbers are not JSON");
             }
-            char const* const fim = vista.data() + vista.size();
-            if (negativo) {
-                auto const [resto, erro] = std::from_chars(vista.data(), fim, lido.com_sinal);
-                if (erro == std::errc() && resto == fim) {
-                    lido.tipo = numero::forma::com_sinal;
+            std::uint64_t absoluto = 0;
+            if (decimal(vista.substr(zero), absoluto)) {
+                if (!negativo) {
+                    lido.tipo = numero::forma::sem_sinal;
+                    lido.sem_sinal = absoluto;
                     return true;
                 }
-            } else {
-                auto const [resto, erro] = std::from_chars(vista.data(), fim, lido.sem_sinal);
-                if (erro == std::errc() && resto == fim) {
-                    lido.tipo = numero::forma::sem_sinal;
+                if (absoluto <= std::uint64_t{1} << 63) {
+                    lido.tipo = numero::forma::com_sinal;
+                    lido.com_sinal = absoluto == std::uint64_t{1} << 63 ? std::numeric_limits<std::int64_t>::min()
+                                                                        : -static_cast<std::int64_t>(absoluto);
                     return true;
                 }
             }
@@ -758,17 +863,8 @@ private:
                 return false;
             }
         }
-        if (texto.empty()) {
-            return false;
-        }
-        for (char const c : texto) {
-            if (!digito(c)) {
-                return false;
-            }
-        }
         std::uint64_t absoluto = 0;
-        auto const [resto, erro] = std::from_chars(texto.data(), texto.data() + texto.size(), absoluto);
-        if (erro != std::errc()) {
+        if (!decimal(texto, absoluto)) {
             return false;
         }
         numero lido;
@@ -912,7 +1008,7 @@ private:
         case FieldDescriptor::CPPTYPE_ENUM: {
             std::int32_t valor = 0;
             if (aspas) {
-                if (auto const* const nomeado = lido_do_campo.enumeracao->FindValueByName(std::string(vista))) {
+                if (auto const* const nomeado = lido_do_campo.valores->achar(vista)) {
                     valor = nomeado->number();
                 } else if (std::int32_t numero_lido = 0;
                            inteiro(vista, numero_lido) &&
@@ -1000,7 +1096,7 @@ private:
     std::string binario_;
     std::string motivo_;
     // The binary form of the note; see espaco_para.
-    std::string bytes_;
+    std::string& bytes_;
     std::size_t usado_ = 0;
 };
 
@@ -1075,6 +1171,15 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         lido.bytes = descritor_campo->type() == FieldDescriptor::TYPE_BYTES;
         lido.oneof = descritor_campo->containing_oneof() == nullptr ? -1 : descritor_campo->containing_oneof()->index();
         lido.enumeracao = descritor_campo->enum_type();
+        if (lido.enumeracao != nullptr) {
+            auto const [valores, novos] = enumeracoes_.try_emplace(lido.enumeracao);
+            if (novos) {
+                for (int j = 0; j < lido.enumeracao->value_count(); ++j) {
+                    valores->second.incluir(lido.enumeracao->value(j)->name(), lido.enumeracao->value(j));
+                }
+            }
+            lido.valores = &valores->second;
+        }
         novo.campos.incluir(descritor_campo->name(), &lido);
         novo.campos.incluir(descritor_campo->json_name(), &lido);
     }
@@ -1086,7 +1191,8 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     return novo;
 }
 
-std::size_t leitor_json::campos_por_nome::espalhar(std::string_view nome)
+template <class T>
+std::size_t leitor_json::por_nome<T>::espalhar(std::string_view nome)
 {
     // The length and the bytes at both ends and in the middle tell the names
     // of one message apart nearly always, at a few instructions.
@@ -1099,9 +1205,10 @@ std::size_t leitor_json::campos_por_nome::espalhar(std::string_view nome)
     return h ^ (h >> 11);
 }
 
-void leitor_json::campos_por_nome::crescer()
+template <class T>
+void leitor_json::por_nome<T>::crescer()
 {
-    std::vector<std::pair<std::string_view, campo const*>> antigas(std::max<std::size_t>(16, casas_.size() * 2));
+    std::vector<std::pair<std::string_view, T const*>> antigas(std::max<std::size_t>(16, casas_.size() * 2));
     antigas.swap(casas_);
     ocupadas_ = 0;
     for (auto const& [nome, lido] : antigas) {
@@ -1111,7 +1218,8 @@ void leitor_json::campos_por_nome::crescer()
     }
 }
 
-void leitor_json::campos_por_nome::incluir(std::string_view nome, campo const* lido)
+template <class T>
+void leitor_json::por_nome<T>::incluir(std::string_view nome, T const* lido)
 {
     // At most half full, so that a search soon meets an empty place.
     if ((ocupadas_ + 1) * 2 > casas_.size()) {
@@ -1131,7 +1239,8 @@ void leitor_json::campos_por_nome::incluir(std::string_view nome, campo const* l
     }
 }
 
-leitor_json::campo const* leitor_json::campos_por_nome::achar(std::string_view nome) const
+template <class T>
+T const* leitor_json::por_nome<T>::achar(std::string_view nome) const
 {
     if (casas_.empty()) {
         return nullptr;
@@ -1142,7 +1251,7 @@ leitor_json::campo const* leitor_json::campos_por_nome::achar(std::string_view n
         if (casa.second == nullptr) {
             return nullptr;
         }
-        if (casa.first.size() == nome.size() && casa.first == nome) {
+        if (casa.first.size() == nome.size() && mesmos_bytes(casa.first.data(), nome.data(), nome.size())) {
             return casa.second;
         }
     }
@@ -1150,12 +1259,19 @@ leitor_json::campo const* leitor_json::campos_por_nome::achar(std::string_view n
 
 bool leitor_json::ler(std::string_view texto, Message& mensagem, std::string& motivo) const
 {
-    leitura leitura(tipos_, texto);
-    if (leitura.documento(mensagem)) {
-        return true;
+    // The room for the binary form is kept by the thread from one note to
+    // the next, up to a bound: most notes then cost no allocation of it.
+    constexpr std::size_t guardados = std::size_t{1} << 20;
+    thread_local std::string bytes;
+    leitura leitura(tipos_, texto, bytes);
+    bool const lido = leitura.documento(mensagem);
+    if (bytes.size() > guardados) {
+        std::string().swap(bytes);
     }
-    motivo = std::move(leitura.motivo());
-    return false;
+    if (!lido) {
+        motivo = std::move(leitura.motivo());
+    }
+    return lido;
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail

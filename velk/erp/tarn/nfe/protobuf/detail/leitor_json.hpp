@@ -39,6 +39,8 @@ public:
     static constexpr int profundidade_maxima = 100;
 
     struct tipo;
+    template <class T>
+    class por_nome;
 
     // A field with what reading it asks of its descriptor, asked once: the
     // descriptor's own answers go through a lock-free but costly once-check
@@ -60,24 +62,31 @@ public:
         // The type of a message field; null for a scalar.
         tipo const* mensagem = nullptr;
         google::protobuf::EnumDescriptor const* enumeracao = nullptr;
+        // The values of the enumeration by name: protobuf's own search
+        // wants a std::string.
+        por_nome<google::protobuf::EnumValueDescriptor> const* valores = nullptr;
     };
 
-    // The fields of a message by name. Every key of a note is looked up
-    // here, so the table is open addressing over a power-of-two size: no
-    // node to follow and no division.
-    class campos_por_nome {
+    // The fields of a message, or the values of an enumeration, by name.
+    // Every key of a note is looked up here, so the table is open
+    // addressing over a power-of-two size: no node to follow and no
+    // division.
+    template <class T>
+    class por_nome {
     public:
-        // The first field given a name keeps it.
-        void incluir(std::string_view nome, campo const* lido);
-        campo const* achar(std::string_view nome) const;
+        // The first one given a name keeps it.
+        void incluir(std::string_view nome, T const* lido);
+        T const* achar(std::string_view nome) const;
 
     private:
         static std::size_t espalhar(std::string_view nome);
         void crescer();
 
-        std::vector<std::pair<std::string_view, campo const*>> casas_;
+        std::vector<std::pair<std::string_view, T const*>> casas_;
         std::size_t ocupadas_ = 0;
     };
+    using campos_por_nome = por_nome<campo>;
+    using valores_por_nome = por_nome<google::protobuf::EnumValueDescriptor>;
 
     struct tipo {
         // The fields in the order of the descriptor.
@@ -95,6 +104,8 @@ private:
     tipo& indexar(google::protobuf::Descriptor const& descritor);
 
     std::unordered_map<google::protobuf::Descriptor const*, tipo> tipos_;
+    // The map's nodes stay where they are as it grows.
+    std::unordered_map<google::protobuf::EnumDescriptor const*, valores_por_nome> enumeracoes_;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::protobuf::detail
