@@ -67,6 +67,10 @@ bool espaco(char c)
 // time where the machine can, without a branch per byte.
 char const* depois_do_espaco(char const* p, char const* fim)
 {
+    // Often there is nothing to skip, as before a colon or a comma.
+    if (p != fim && !espaco(*p)) {
+        return p;
+    }
 #if defined(__SSE2__)
     __m128i const espacos = _mm_set1_epi8(' ');
     __m128i const tab = _mm_set1_epi8('\t');
@@ -357,11 +361,13 @@ private:
     // `usado_` bytes are taken; the rest is room, grown on demand.
     char* espaco_para(std::size_t n)
     {
-        if (bytes_.size() - usado_ < n) {
-            bytes_.resize(std::max(bytes_.size() * 2, usado_ + n));
+        if (bytes_.size() - usado_ < n) [[unlikely]] {
+            crescer(n);
         }
         return bytes_.data() + usado_;
     }
+
+    [[gnu::noinline]] void crescer(std::size_t n) { bytes_.resize(std::max(bytes_.size() * 2, usado_ + n)); }
 
     void varint(std::uint64_t valor)
     {
@@ -441,6 +447,19 @@ private:
     // A string opened by " or ', its escapes undone; `saida` is used only
     // when there is an escape, otherwise `vista` points into the text.
     bool texto(std::string& saida, std::string_view& vista)
+    {
+        // Nearly every string of a note is plain ASCII without an escape:
+        // its inside is the text itself.
+        char const* const fim_simples = ate_atencao_no_texto(p_ + 1, fim_);
+        if (fim_simples != fim_ && *fim_simples == *p_) {
+            vista = std::string_view(p_ + 1, static_cast<std::size_t>(fim_simples - p_ - 1));
+            p_ = fim_simples + 1;
+            return true;
+        }
+        return texto_com_atencao(saida, vista);
+    }
+
+    [[gnu::noinline]] bool texto_com_atencao(std::string& saida, std::string_view& vista)
     {
         char const aspa = *p_++;
         char const* const comeco = p_;
