@@ -98,7 +98,7 @@ char const* depois_do_espaco(char const* p, char const* fim)
 // The first byte at or after `p` that the inside of a string stops at: a
 // quote, a backslash or a byte of a multibyte character; 16 bytes at a time
 // where the machine can.
-char const* ate_atencao_no_texto(char const* p, char const* fim)
+[[gnu::always_inline]] inline char const* ate_atencao_no_texto(char const* p, char const* fim)
 {
 #if defined(__SSE2__)
     __m128i const aspas = _mm_set1_epi8('"');
@@ -369,34 +369,54 @@ private:
 
     [[gnu::noinline]] void crescer(std::size_t n) { bytes_.resize(std::max(bytes_.size() * 2, usado_ + n)); }
 
-    void varint(std::uint64_t valor)
+    // The room for a field's tag and `n` bytes more; the tag written.
+    char* etiqueta_e_espaco(campo_lido const& campo, std::size_t n)
     {
-        char* const comeco = espaco_para(10);
-        char* p = comeco;
+        char* const p = espaco_para(sizeof campo.etiqueta + n);
+        std::memcpy(p, campo.etiqueta.data(), sizeof campo.etiqueta);
+        return p + campo.tamanho_etiqueta;
+    }
+
+    void ate(char const* p) { usado_ = static_cast<std::size_t>(p - bytes_.data()); }
+
+    void etiqueta(campo_lido const& campo) { ate(etiqueta_e_espaco(campo, 0)); }
+
+    void campo_varint(campo_lido const& campo, std::uint64_t valor)
+    {
+        char* p = etiqueta_e_espaco(campo, 10);
         while (valor >= 0x80) {
             *p++ = static_cast<char>(valor | 0x80);
             valor >>= 7;
         }
         *p++ = static_cast<char>(valor);
-        usado_ += static_cast<std::size_t>(p - comeco);
+        ate(p);
     }
 
-    void fixo(void const* valor, std::size_t tamanho)
+    void campo_fixo(campo_lido const& campo, void const* valor, std::size_t tamanho)
     {
-        std::memcpy(espaco_para(tamanho), valor, tamanho);
-        usado_ += tamanho;
+        char* const p = etiqueta_e_espaco(campo, tamanho);
+        std::memcpy(p, valor, tamanho);
+        ate(p + tamanho);
     }
 
-    void etiqueta(campo_lido const& campo)
+    void campo_delimitado(campo_lido const& campo, std::string_view valor)
     {
-        std::memcpy(espaco_para(sizeof campo.etiqueta), campo.etiqueta.data(), sizeof campo.etiqueta);
-        usado_ += campo.tamanho_etiqueta;
+        char* p = etiqueta_e_espaco(campo, 10 + valor.size());
+        std::size_t tamanho = valor.size();
+        while (tamanho >= 0x80) {
+            *p++ = static_cast<char>(tamanho | 0x80);
+            tamanho >>= 7;
+        }
+        *p++ = static_cast<char>(tamanho);
+        std::memcpy(p, valor.data(), valor.size());
+        ate(p + valor.size());
     }
 
-    void delimitado(std::string_view valor)
+    void fim_do_grupo(campo_lido const& campo)
     {
-        varint(valor.size());
-        fixo(valor.data(), valor.size());
+        char* const p = espaco_para(sizeof campo.fim_do_grupo);
+        std::memcpy(p, campo.fim_do_grupo.data(), sizeof campo.fim_do_grupo);
+        ate(p + campo.tamanho_etiqueta);
     }
 
     // The length of a message is written before it but known only after:
@@ -683,7 +703,7 @@ private:
                 if (!objeto(tipo, profundidade + 1)) {
                     return false;
                 }
-                fixo(campo.fim_do_grupo.data(), campo.tamanho_etiqueta);
+                fim_do_grupo(campo);
                 return true;
             }
             // Most messages of a note are shorter than 2^14 bytes.
@@ -702,7 +722,7 @@ private:
             if (!escalar(tipo.lista.front())) {
                 return false;
             }
-            fixo(campo.fim_do_grupo.data(), campo.tamanho_etiqueta);
+            fim_do_grupo(campo);
             return true;
         }
         // A wrapper's bare value: most are shorter than 128 bytes.
@@ -1001,8 +1021,7 @@ private:
             if (lido_do_campo.tipo_cpp != FieldDescriptor::CPPTYPE_BOOL) {
                 return recusa();
             }
-            etiqueta(lido_do_campo);
-            varint(verdade ? 1 : 0);
+            campo_varint(lido_do_campo, verdade ? 1 : 0);
             return true;
         }
         switch (lido_do_campo.tipo_cpp) {
@@ -1016,8 +1035,7 @@ private:
                 }
                 vista = binario_;
             }
-            etiqueta(lido_do_campo);
-            delimitado(vista);
+            campo_delimitado(lido_do_campo, vista);
             return true;
         }
         case FieldDescriptor::CPPTYPE_INT32: return inteiro_do_campo<std::int32_t>(lido_do_campo, aspas, vista, lido, recusa);
@@ -1041,8 +1059,7 @@ private:
             } else {
                 return recusa();
             }
-            etiqueta(lido_do_campo);
-            varint(static_cast<std::uint64_t>(static_cast<std::int64_t>(valor)));
+            campo_varint(lido_do_campo, static_cast<std::uint64_t>(static_cast<std::int64_t>(valor)));
             return true;
         }
         case FieldDescriptor::CPPTYPE_DOUBLE:
@@ -1052,22 +1069,19 @@ private:
                 return recusa();
             }
             if (lido_do_campo.tipo_cpp == FieldDescriptor::CPPTYPE_DOUBLE) {
-                etiqueta(lido_do_campo);
-                fixo(&valor, sizeof valor);
+                campo_fixo(lido_do_campo, &valor, sizeof valor);
             } else {
                 if (std::isfinite(valor) && std::abs(valor) > std::numeric_limits<float>::max()) {
                     return recusa();
                 }
                 auto const curto = static_cast<float>(valor);
-                etiqueta(lido_do_campo);
-                fixo(&curto, sizeof curto);
+                campo_fixo(lido_do_campo, &curto, sizeof curto);
             }
             return true;
         }
         case FieldDescriptor::CPPTYPE_BOOL:
             if (aspas && (vista == "true" || vista == "false")) {
-                etiqueta(lido_do_campo);
-                varint(vista == "true" ? 1 : 0);
+                campo_varint(lido_do_campo, vista == "true" ? 1 : 0);
                 return true;
             }
             return recusa();
@@ -1084,7 +1098,6 @@ private:
         if (!(aspas ? inteiro(vista, valor) : inteiro(lido, valor))) {
             return recusa();
         }
-        etiqueta(lido_do_campo);
         using sem_sinal = std::make_unsigned_t<T>;
         switch (lido_do_campo.tipo_campo) {
         case FieldDescriptor::TYPE_SINT32:
@@ -1092,16 +1105,17 @@ private:
             // Zigzag: the sign in the lowest bit.
             if constexpr (std::is_signed_v<T>) {
                 auto const bits = static_cast<sem_sinal>(valor);
-                varint(static_cast<sem_sinal>((bits << 1) ^ (valor < 0 ? ~sem_sinal{} : sem_sinal{})));
+                campo_varint(lido_do_campo, static_cast<sem_sinal>((bits << 1) ^ (valor < 0 ? ~sem_sinal{} : sem_sinal{})));
             }
             break;
         case FieldDescriptor::TYPE_FIXED32:
         case FieldDescriptor::TYPE_SFIXED32:
         case FieldDescriptor::TYPE_FIXED64:
-        case FieldDescriptor::TYPE_SFIXED64: fixo(&valor, sizeof valor); break;
+        case FieldDescriptor::TYPE_SFIXED64: campo_fixo(lido_do_campo, &valor, sizeof valor); break;
         default:
             // A negative 32-bit value takes all ten bytes, as if of 64 bits.
-            varint(static_cast<std::uint64_t>(static_cast<std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>>(valor)));
+            campo_varint(lido_do_campo, static_cast<std::uint64_t>(
+                                            static_cast<std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>>(valor)));
             break;
         }
         return true;
