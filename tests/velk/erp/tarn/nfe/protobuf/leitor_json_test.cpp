@@ -5,12 +5,15 @@
 
 #include "notas_json_teste.hpp"
 
+#include <velk/erp/tarn/nfe/protobuf/detail/leitor_json.hpp>
 #include <velk/erp/tarn/nfe/protobuf/nota_json_result_category.hpp>
 
+#include <google/protobuf/dynamic_message.h>
 #include <google/protobuf/util/json_util.h>
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <memory>
 #include <random>
 #include <string>
 #include <vector>
@@ -183,6 +186,25 @@ TEST(leitor_json, every_note_of_the_corpus_reads_as_protobuf_reads_it)
         stack report;
         ASSERT_TRUE(ler_nota_json(texto, nota, report)) << report.to_string();
         EXPECT_EQ(diferenca(texto), "") << texto.substr(0, 200);
+    }
+}
+
+// A message built from the descriptor alone, of no generated class, is
+// filled as the generated one is, and refused with the same reason.
+TEST(leitor_json, a_message_of_no_generated_class_reads_as_the_generated_one)
+{
+    velk::erp::tarn::nfe::protobuf::detail::leitor_json const leitor(*NotaFiscal::descriptor());
+    google::protobuf::DynamicMessageFactory fabrica;
+    auto textos = notas_do_corpus();
+    textos.push_back(produto(R"("valor_total_bruto": {"numero": "x"})"));
+    for (auto const& texto : textos) {
+        std::unique_ptr<google::protobuf::Message> dinamica(fabrica.GetPrototype(NotaFiscal::descriptor())->New());
+        NotaFiscal gerada;
+        std::string motivo_dinamica;
+        std::string motivo_gerada;
+        EXPECT_EQ(leitor.ler(texto, *dinamica, motivo_dinamica), leitor.ler(texto, gerada, motivo_gerada));
+        EXPECT_EQ(motivo_dinamica, motivo_gerada);
+        EXPECT_EQ(dinamica->SerializeAsString(), gerada.SerializeAsString()) << texto.substr(0, 200);
     }
 }
 
