@@ -189,6 +189,17 @@ TEST(leitor_json, every_note_of_the_corpus_reads_as_protobuf_reads_it)
     }
 }
 
+// Messages whose length takes more bytes than most: a wrapper's value past
+// 127 bytes, messages past 2^14 and 2^21 bytes, nested.
+TEST(leitor_json, long_messages_read_as_protobuf_reads_them)
+{
+    for (auto const& texto : {R"({"emitente": {"cnpj": ")" + std::string(200, '1') + R"("}})",
+                              produto(R"("descricao": ")" + std::string(20000, 'x') + R"(", "ncm": 5)"),
+                              endereco(R"("logadouro": ")" + std::string((1 << 21) + 5, 'y') + R"(", "cep": 7)")}) {
+        EXPECT_EQ(diferenca(texto).substr(0, 300), "") << texto.substr(0, 60);
+    }
+}
+
 // A message built from the descriptor alone, of no generated class, is
 // filled as the generated one is, and refused with the same reason.
 TEST(leitor_json, a_message_of_no_generated_class_reads_as_the_generated_one)

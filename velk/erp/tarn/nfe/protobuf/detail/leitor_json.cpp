@@ -439,6 +439,7 @@ private:
         while (largura < 10 && (tamanho >> (7 * largura)) != 0) {
             ++largura;
         }
+        std::size_t const posicao = comeco - reservados;
         if (largura > reservados) {
             std::size_t const mais = largura - reservados;
             espaco_para(mais);
@@ -446,7 +447,7 @@ private:
             usado_ += mais;
             reservados = largura;
         }
-        char* p = bytes_.data() + comeco - reservados;
+        char* p = bytes_.data() + posicao;
         for (std::size_t i = 1; i < reservados; ++i) {
             *p++ = static_cast<char>(tamanho | 0x80);
             tamanho >>= 7;
