@@ -30,9 +30,8 @@ public:
     leitor_json& operator=(leitor_json const&) = delete;
 
     // Fills `mensagem` (of the root's type) from `texto`; what it held
-    // before is dropped.
-    // On refusal, false and `motivo` says what and at which byte; `mensagem`
-    // may then hold part of the text and is for the caller to clear.
+    // before is dropped. On refusal, false and `motivo` says what and at
+    // which byte; `mensagem` is then left as it was.
     bool ler(std::string_view texto, google::protobuf::Message& mensagem, std::string& motivo) const;
 
     // The objects nested deeper than this are refused, as protobuf does.
