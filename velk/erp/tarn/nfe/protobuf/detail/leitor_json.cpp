@@ -173,6 +173,18 @@ bool decimal(std::string_view digitos, std::uint64_t& valor)
     return true;
 }
 
+// A number as a varint of the binary form, written at `p` (room for its
+// bytes, ten at the most); the end of what was written.
+char* varint_em(char* p, std::uint64_t valor)
+{
+    while (valor >= 0x80) {
+        *p++ = static_cast<char>(valor | 0x80);
+        valor >>= 7;
+    }
+    *p++ = static_cast<char>(valor);
+    return p;
+}
+
 bool letra(char c)
 {
     return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_' || c == '$';
@@ -381,16 +393,7 @@ private:
 
     void etiqueta(campo_lido const& campo) { ate(etiqueta_e_espaco(campo, 0)); }
 
-    void campo_varint(campo_lido const& campo, std::uint64_t valor)
-    {
-        char* p = etiqueta_e_espaco(campo, 10);
-        while (valor >= 0x80) {
-            *p++ = static_cast<char>(valor | 0x80);
-            valor >>= 7;
-        }
-        *p++ = static_cast<char>(valor);
-        ate(p);
-    }
+    void campo_varint(campo_lido const& campo, std::uint64_t valor) { ate(varint_em(etiqueta_e_espaco(campo, 10), valor)); }
 
     void campo_fixo(campo_lido const& campo, void const* valor, std::size_t tamanho)
     {
@@ -401,13 +404,7 @@ private:
 
     void campo_delimitado(campo_lido const& campo, std::string_view valor)
     {
-        char* p = etiqueta_e_espaco(campo, 10 + valor.size());
-        std::size_t tamanho = valor.size();
-        while (tamanho >= 0x80) {
-            *p++ = static_cast<char>(tamanho | 0x80);
-            tamanho >>= 7;
-        }
-        *p++ = static_cast<char>(tamanho);
+        char* const p = varint_em(etiqueta_e_espaco(campo, 10 + valor.size()), valor.size());
         std::memcpy(p, valor.data(), valor.size());
         ate(p + valor.size());
     }
@@ -1155,13 +1152,7 @@ std::uint32_t tipo_no_fio(FieldDescriptor::Type tipo)
 // A tag as a varint; its length.
 std::size_t etiquetar(std::array<char, 5>& bytes, std::uint32_t valor)
 {
-    std::size_t n = 0;
-    while (valor >= 0x80) {
-        bytes[n++] = static_cast<char>(valor | 0x80);
-        valor >>= 7;
-    }
-    bytes[n++] = static_cast<char>(valor);
-    return n;
+    return static_cast<std::size_t>(varint_em(bytes.data(), valor) - bytes.data());
 }
 
 }  // namespace
