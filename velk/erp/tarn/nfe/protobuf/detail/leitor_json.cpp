@@ -26,7 +26,6 @@ static_assert(std::endian::native == std::endian::little);
 using google::protobuf::Descriptor;
 using google::protobuf::FieldDescriptor;
 using google::protobuf::Message;
-using google::protobuf::Reflection;
 using campo_lido = leitor_json::campo;
 using tipo_lido = leitor_json::tipo;
 

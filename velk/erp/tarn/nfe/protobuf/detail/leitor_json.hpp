@@ -3,12 +3,12 @@
 // The reading of a note's JSON text straight into its message, in one pass
 // and without an intermediate tree: the text is walked once and written in
 // the message's binary form, which the message's own parser then reads. The
-// result is the one
-// protobuf's own JSON mapping gives for the same text (its default options),
-// leniencies of its reader included: single-quoted strings, unquoted keys,
-// a comma before a closing bracket, nested arrays flattened into a repeated
-// field, raw control characters in strings and an unknown escape standing
-// for the character itself. What it refuses is refused here too.
+// result is the one protobuf's own JSON mapping gives for the same text (its
+// default options), leniencies of its reader included: single-quoted
+// strings, unquoted keys, a comma before a closing bracket, nested arrays
+// flattened into a repeated field, raw control characters in strings and an
+// unknown escape standing for the character itself. What it refuses is
+// refused here too.
 
 #include <google/protobuf/descriptor.h>
 #include <google/protobuf/message.h>
