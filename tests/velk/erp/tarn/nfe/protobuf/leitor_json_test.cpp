@@ -8,6 +8,7 @@
 #include <velk/erp/tarn/nfe/protobuf/detail/leitor_json.hpp>
 #include <velk/erp/tarn/nfe/protobuf/nota_json_result_category.hpp>
 
+#include <google/protobuf/descriptor.pb.h>
 #include <google/protobuf/dynamic_message.h>
 #include <google/protobuf/util/json_util.h>
 #include <gtest/gtest.h>
@@ -187,6 +188,68 @@ TEST(leitor_json, every_note_of_the_corpus_reads_as_protobuf_reads_it)
         ASSERT_TRUE(ler_nota_json(texto, nota, report)) << report.to_string();
         EXPECT_EQ(diferenca(texto), "") << texto.substr(0, 200);
     }
+}
+
+// Every kind of field the binary form knows, most of which no note has, on a
+// message of no generated class: each value alone and in a list, against
+// protobuf's reader. The field numbers take tags of one to three bytes.
+TEST(leitor_json, every_kind_of_field_reads_as_protobuf_reads_it)
+{
+    using campo = google::protobuf::FieldDescriptorProto;
+    google::protobuf::FileDescriptorProto arquivo;
+    arquivo.set_name("tipos.proto");
+    arquivo.set_package("teste");
+    arquivo.set_syntax("proto3");
+    auto& tipos = *arquivo.add_message_type();
+    tipos.set_name("Tipos");
+    std::vector<std::pair<std::string, campo::Type>> const feitios = {
+        {"d", campo::TYPE_DOUBLE},     {"f", campo::TYPE_FLOAT},      {"i64", campo::TYPE_INT64},
+        {"u64", campo::TYPE_UINT64},   {"i32", campo::TYPE_INT32},    {"x64", campo::TYPE_FIXED64},
+        {"x32", campo::TYPE_FIXED32},  {"b", campo::TYPE_BOOL},       {"s", campo::TYPE_STRING},
+        {"y", campo::TYPE_BYTES},      {"u32", campo::TYPE_UINT32},   {"sx32", campo::TYPE_SFIXED32},
+        {"sx64", campo::TYPE_SFIXED64}, {"z32", campo::TYPE_SINT32},  {"z64", campo::TYPE_SINT64},
+    };
+    int numero = 1;
+    for (auto const& [nome, feitio] : feitios) {
+        for (bool const repetido : {false, true}) {
+            auto& novo = *tipos.add_field();
+            novo.set_name(repetido ? "r" + nome : nome);
+            novo.set_number(numero);
+            numero += 600;
+            novo.set_type(feitio);
+            novo.set_label(repetido ? campo::LABEL_REPEATED : campo::LABEL_OPTIONAL);
+        }
+    }
+    google::protobuf::DescriptorPool conjunto;
+    auto const* const lido = conjunto.BuildFile(arquivo);
+    ASSERT_NE(lido, nullptr);
+    google::protobuf::Descriptor const& descritor = *lido->message_type(0);
+    velk::erp::tarn::nfe::protobuf::detail::leitor_json const leitor(descritor);
+    google::protobuf::DynamicMessageFactory fabrica;
+    google::protobuf::Message const& prototipo = *fabrica.GetPrototype(&descritor);
+
+    std::vector<std::string> const valores = {
+        "0", "1", "-1", "2147483647", "-2147483648", "4294967295", "\"-9223372036854775808\"",
+        "\"18446744073709551615\"", "1.5", "-0.0", "1e300", "3.4e38", "\"NaN\"", "\"-Infinity\"", "true",
+        "\"true\"", "\"aGVsbG8=\"", "\"h\u00e9llo\"", "\"AQID\"", "\"QQ\"", "\"QR\"", "\"QUI\"", "\"QUJ\"",
+        "\"QQ==\"", "\"QQ=\"", "\"Q\"", "\"Q===\"", "\"QUI=\"", "\"QUJD\"", "\"_-8\"", "\"+/8\"", "\"QQ==QQ==\"", "\"QUJD====\"", "\"QUJD=\"", "\"QQ===\"", "\"QUI==\"", "\"=\"", "\"====\"", "\"\""};
+    int aceitos = 0;
+    for (int i = 0; i < descritor.field_count(); ++i) {
+        std::string const nome(descritor.field(i)->name());
+        for (auto const& valor : valores) {
+            for (std::string const& texto : {"{\"" + nome + "\": " + valor + "}",
+                                             "{\"" + nome + "\": [" + valor + ", " + valor + "]}"}) {
+                std::unique_ptr<google::protobuf::Message> oraculo(prototipo.New());
+                std::unique_ptr<google::protobuf::Message> nosso(prototipo.New());
+                bool const aceito = google::protobuf::util::JsonStringToMessage(texto, oraculo.get()).ok();
+                std::string motivo;
+                EXPECT_EQ(leitor.ler(texto, *nosso, motivo), aceito) << texto << " " << motivo;
+                EXPECT_EQ(nosso->SerializeAsString(), oraculo->SerializeAsString()) << texto;
+                aceitos += aceito ? 1 : 0;
+            }
+        }
+    }
+    EXPECT_GT(aceitos, 100);
 }
 
 // Messages whose length takes more bytes than most: a wrapper's value past

@@ -973,12 +973,16 @@ private:
                 saida += static_cast<char>((acumulado >> bits) & 0xFF);
             }
         }
+        bool const preenchido = i < texto.size();
         for (; i < texto.size(); ++i) {
             if (texto[i] != '=') {
                 return false;
             }
         }
-        return bits < 6;
+        // The bits left over must be zeros, and padding, when there is
+        // any, must complete the last group of four.
+        return bits < 6 && (acumulado & ((1u << bits) - 1)) == 0 &&
+               (!preenchido || (bits != 0 && texto.size() % 4 == 0));
     }
 
     // A scalar of a field, or of a wrapper's value, written with its tag.
