@@ -42,6 +42,45 @@ constexpr std::array<unsigned char, 256> make_escapes()
 
 constexpr std::array<unsigned char, 256> escapes = make_escapes();
 
+// ASCII name characters: those a name may start with, and those it may hold
+// after the first. The colon is left out: a prefixed name takes the full check.
+enum name_kind : unsigned char { name_inside = 1, name_start = 2 };
+
+constexpr std::array<unsigned char, 256> make_name_kinds()
+{
+    std::array<unsigned char, 256> table{};
+    for (int c = 'A'; c <= 'Z'; ++c) {
+        table[c] = name_inside | name_start;
+        table[c + ('a' - 'A')] = name_inside | name_start;
+    }
+    for (int c = '0'; c <= '9'; ++c) {
+        table[c] = name_inside;
+    }
+    table['_'] = name_inside | name_start;
+    table['-'] = name_inside;
+    table['.'] = name_inside;
+    return table;
+}
+
+constexpr std::array<unsigned char, 256> name_kinds = make_name_kinds();
+
+// The tree's own rule for element names, decided here without a call for the
+// names nearly every document has: a few ASCII letters, no prefix.
+bool is_element_name(std::string const& name)
+{
+    std::size_t const size = name.size();
+    if (size != 0 && (name_kinds[static_cast<unsigned char>(name[0])] & name_start) != 0) {
+        std::size_t index = 1;
+        while (index < size && (name_kinds[static_cast<unsigned char>(name[index])] & name_inside) != 0) {
+            ++index;
+        }
+        if (index == size) {
+            return true;
+        }
+    }
+    return velk::xml::is_qualified_name(name);
+}
+
 std::string_view escape_of(char c)
 {
     switch (c) {
@@ -162,8 +201,8 @@ bool canonical_serializer::start_tag(velk::xml::element const& value)
 {
     // The tree's own rule: a name it can save is a name the canonical form
     // takes, and one it would refuse to save is refused here too.
-    std::string const& name = value.get_qualified_name();
-    if (!velk::xml::is_qualified_name(name)) {
+    std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
+    if (!is_element_name(name)) {
         problem_ = "nome de elemento inválido: \"" + name + "\"";
         return false;
     }
@@ -220,7 +259,7 @@ bool canonical_serializer::write_content_and_end(velk::xml::element const& value
         return false;
     }
     out_.put("</");
-    out_.put(value.get_qualified_name());
+    out_.put(velk::xml::detail::element_access::contents(value)->qualified_name);
     out_.put('>');
     return true;
 }
@@ -355,7 +394,9 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
             return true;
         }
     }
-    for (velk::xml::node const& child : value.get_node_range()) {
+    // The children straight from the tree's list: this loop runs for every
+    // element of the document.
+    for (velk::xml::node const& child : velk::xml::detail::element_access::contents(value)->children) {
         if (velk::xml::element const* nested = child.as_element()) {
             if (nested == excluded_) {
                 continue;
