@@ -176,6 +176,8 @@ bool canonical_serializer::write(subtree const& what, sink const& output, core::
     excluded_ = what.excluded;
     replacements_ = what.replacements;
     with_comments_ = what.with_comments;
+    counted_id_ = what.counted_id;
+    counted_ids_ = 0;
     output_ = &output;
     bool const written = write_apex(what);
     if (written && out_.size() != 0) {
@@ -355,6 +357,9 @@ void canonical_serializer::gather_attributes(velk::xml::element const& value)
     attributes_.clear();
     for (velk::xml::attribute const& property : value.get_attributes()) {
         std::string_view const name = property.get_name();
+        if (!counted_id_.empty() && name == "Id" && property.get_value() == counted_id_) {
+            ++counted_ids_;
+        }
         std::string_view const prefix = velk::xml::prefix_of(name);
         std::string_view uri;
         if (prefix == "xml") {

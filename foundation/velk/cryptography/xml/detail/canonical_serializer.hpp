@@ -50,6 +50,10 @@ public:
         velk::xml::element const* excluded = nullptr;
         std::span<replacement const> replacements = {};
         bool with_comments = false;
+        // When not empty, the attributes Id holding this value are counted
+        // on the elements written, apex included: a signer learns so whether
+        // the Id it resolved is unique under apex without a walk of its own.
+        std::string_view counted_id = {};
     };
 
     // Receives the canonical bytes in order, in pieces.
@@ -59,6 +63,9 @@ public:
     // namespace URI that is not absolute, as the tree refuses to save them;
     // what went out before the failure is then to be thrown away.
     bool write(subtree const& what, sink const& output, core::result::stack& stack);
+
+    // The attributes counted by the last write (see subtree::counted_id).
+    std::size_t counted_ids() const { return counted_ids_; }
 
 private:
     // The bytes written and not handed over yet; appends are inline. Its
@@ -129,6 +136,8 @@ private:
     velk::xml::element const* excluded_ = nullptr;
     std::span<replacement const> replacements_;
     bool with_comments_ = false;
+    std::string_view counted_id_;
+    std::size_t counted_ids_ = 0;
     sink const* output_ = nullptr;
     std::string problem_;
 };
