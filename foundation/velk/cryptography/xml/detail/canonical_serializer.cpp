@@ -199,13 +199,21 @@ void canonical_serializer::flush_if_full()
     }
 }
 
+// The tree's own rule: a name it can save is a name the canonical form takes,
+// and one it would refuse to save is refused here too.
+bool canonical_serializer::accept_name(std::string const& name)
+{
+    if (is_element_name(name)) {
+        return true;
+    }
+    problem_ = "nome de elemento inválido: \"" + name + "\"";
+    return false;
+}
+
 bool canonical_serializer::start_tag(velk::xml::element const& value)
 {
-    // The tree's own rule: a name it can save is a name the canonical form
-    // takes, and one it would refuse to save is refused here too.
     std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
-    if (!is_element_name(name)) {
-        problem_ = "nome de elemento inválido: \"" + name + "\"";
+    if (!accept_name(name)) {
         return false;
     }
     out_.put('<');
@@ -312,9 +320,27 @@ bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk:
 
 bool canonical_serializer::write_plain_element(velk::xml::element const& value)
 {
-    if (!start_tag(value) || !write_content_and_end(value)) {
+    std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
+    if (!accept_name(name)) {
         return false;
     }
+    std::size_t const size = name.size();
+    char* position = out_.reserve(size + 2);
+    *position++ = '<';
+    buffer::copy(position, name.data(), size);
+    position += size;
+    *position++ = '>';
+    out_.commit(position);
+    if (!write_children(value)) {
+        return false;
+    }
+    position = out_.reserve(size + 3);
+    *position++ = '<';
+    *position++ = '/';
+    buffer::copy(position, name.data(), size);
+    position += size;
+    *position++ = '>';
+    out_.commit(position);
     flush_if_full();
     return true;
 }

@@ -89,8 +89,38 @@ private:
             if (capacity_ - size_ < text.size()) {
                 grow(text.size());
             }
-            std::memcpy(data_.get() + size_, text.data(), text.size());
+            copy(data_.get() + size_, text.data(), text.size());
             size_ += text.size();
+        }
+        // Room for `size` more bytes, written from the pointer returned and
+        // closed by commit with the pointer past the last one written.
+        char* reserve(std::size_t size)
+        {
+            if (capacity_ - size_ < size) {
+                grow(size);
+            }
+            return data_.get() + size_;
+        }
+        void commit(char const* end) { size_ = static_cast<std::size_t>(end - data_.get()); }
+        // Most pieces are names and short values: copied by a few moves
+        // instead of a call.
+        static void copy(char* target, char const* source, std::size_t size)
+        {
+            if (size >= 8) {
+                if (size > 16) {
+                    std::memcpy(target, source, size);
+                    return;
+                }
+                std::memcpy(target, source, 8);
+                std::memcpy(target + size - 8, source + size - 8, 8);
+            } else if (size >= 4) {
+                std::memcpy(target, source, 4);
+                std::memcpy(target + size - 4, source + size - 4, 4);
+            } else if (size != 0) {
+                target[0] = source[0];
+                target[size / 2] = source[size / 2];
+                target[size - 1] = source[size - 1];
+            }
         }
         std::string_view view() const { return {data_.get(), size_}; }
         std::size_t size() const { return size_; }
@@ -117,6 +147,7 @@ private:
     bool write_plain_element(velk::xml::element const& value);
     // From the end of the start tag on: ">", the children, the end tag.
     bool write_content_and_end(velk::xml::element const& value);
+    bool accept_name(std::string const& name);
     bool start_tag(velk::xml::element const& value);
     bool write_children(velk::xml::element const& value);
     // Writes declarations_ in the order of their prefixes.
