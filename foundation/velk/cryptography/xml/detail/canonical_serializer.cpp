@@ -45,6 +45,7 @@ constexpr std::array<unsigned char, 256> escapes = make_escapes();
 // ASCII name characters: those a name may start with, and those it may hold
 // after the first. The colon is left out: a prefixed name takes the full check.
 enum name_kind : unsigned char { name_inside = 1, name_start = 2 };
+static_assert(name_start >> 1 == name_inside);
 
 constexpr std::array<unsigned char, 256> make_name_kinds()
 {
@@ -321,13 +322,20 @@ bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk:
 bool canonical_serializer::write_plain_element(velk::xml::element const& value)
 {
     std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
-    if (!accept_name(name)) {
-        return false;
-    }
     std::size_t const size = name.size();
     char* position = out_.reserve(size + 2);
     *position++ = '<';
-    buffer::copy(position, name.data(), size);
+    // The name copied and checked in one pass, as is_element_name checks it
+    // (the first character read as the string's terminator when empty).
+    char const* const source = name.data();
+    unsigned valid = name_kinds[static_cast<unsigned char>(source[0])] >> 1;
+    for (std::size_t index = 0; index < size; ++index) {
+        position[index] = source[index];
+        valid &= name_kinds[static_cast<unsigned char>(source[index])];
+    }
+    if (valid == 0 && !accept_name(name)) {
+        return false;
+    }
     position += size;
     *position++ = '>';
     out_.commit(position);
@@ -337,7 +345,7 @@ bool canonical_serializer::write_plain_element(velk::xml::element const& value)
     position = out_.reserve(size + 3);
     *position++ = '<';
     *position++ = '/';
-    buffer::copy(position, name.data(), size);
+    buffer::copy(position, source, size);
     position += size;
     *position++ = '>';
     out_.commit(position);
