@@ -319,11 +319,10 @@ bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk:
            above->prefixed_local_name == nullptr && own->namespace_uri == above->namespace_uri;
 }
 
-bool canonical_serializer::write_plain_element(velk::xml::element const& value)
+char* canonical_serializer::open_plain_tag(std::string const& name, std::size_t room)
 {
-    std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
     std::size_t const size = name.size();
-    char* position = out_.reserve(size + 2);
+    char* position = out_.reserve(size + 2 + room);
     *position++ = '<';
     // The name copied and checked in one pass, as is_element_name checks it
     // (the first character read as the string's terminator when empty).
@@ -334,21 +333,60 @@ bool canonical_serializer::write_plain_element(velk::xml::element const& value)
         valid &= name_kinds[static_cast<unsigned char>(source[index])];
     }
     if (valid == 0 && !accept_name(name)) {
-        return false;
+        return nullptr;
     }
     position += size;
     *position++ = '>';
+    return position;
+}
+
+char* canonical_serializer::close_tag(char* position, std::string const& name)
+{
+    *position++ = '<';
+    *position++ = '/';
+    buffer::copy(position, name.data(), name.size());
+    position += name.size();
+    *position++ = '>';
+    return position;
+}
+
+bool canonical_serializer::write_plain_element(velk::xml::element const& value)
+{
+    std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
+    char* position = open_plain_tag(name, 0);
+    if (position == nullptr) {
+        return false;
+    }
     out_.commit(position);
     if (!write_children(value)) {
         return false;
     }
-    position = out_.reserve(size + 3);
-    *position++ = '<';
-    *position++ = '/';
-    buffer::copy(position, source, size);
-    position += size;
-    *position++ = '>';
-    out_.commit(position);
+    out_.commit(close_tag(out_.reserve(name.size() + 3), name));
+    flush_if_full();
+    return true;
+}
+
+// Most elements of a document are bare ones holding one text: written here
+// whole, in one room of the buffer, without a walk of their children.
+bool canonical_serializer::write_plain_leaf(std::string const& name, std::string const& contents)
+{
+    char* position = open_plain_tag(name, contents.size() + name.size() + 3);
+    if (position == nullptr) {
+        return false;
+    }
+    std::size_t index = 0;
+    std::size_t const size = contents.size();
+    while (index < size && (escapes[static_cast<unsigned char>(contents[index])] & in_text) == 0) {
+        position[index] = contents[index];
+        ++index;
+    }
+    position += index;
+    if (index < size) {
+        out_.commit(position);
+        write_escaped(std::string_view(contents).substr(index), in_text);
+        position = out_.reserve(name.size() + 3);
+    }
+    out_.commit(close_tag(position, name));
     flush_if_full();
     return true;
 }
@@ -435,12 +473,27 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
     }
     // The children straight from the tree's list: this loop runs for every
     // element of the document.
-    for (velk::xml::node const& child : velk::xml::detail::element_access::contents(value)->children) {
+    using access = velk::xml::detail::element_access;
+    for (velk::xml::node const& child : access::contents(value)->children) {
         if (velk::xml::element const* nested = child.as_element()) {
             if (nested == excluded_) {
                 continue;
             }
-            if (!(plain_child_of(*nested, value) ? write_plain_element(*nested) : write_element(*nested))) {
+            if (!plain_child_of(*nested, value)) {
+                if (!write_element(*nested)) {
+                    return false;
+                }
+                continue;
+            }
+            velk::xml::node_list const& grandchildren = access::contents(*nested)->children;
+            velk::xml::text const* only_text = replacements_.empty() && grandchildren.size() == 1
+                                                   ? grandchildren.front().as_text()
+                                                   : nullptr;
+            bool const written = only_text != nullptr
+                                     ? write_plain_leaf(access::contents(*nested)->qualified_name,
+                                                        only_text->get_contents())
+                                     : write_plain_element(*nested);
+            if (!written) {
                 return false;
             }
         } else if (velk::xml::text const* contents = child.as_text()) {

@@ -145,6 +145,11 @@ private:
     bool write_element(velk::xml::element const& value);
     static bool plain_child_of(velk::xml::element const& child, velk::xml::element const& parent);
     bool write_plain_element(velk::xml::element const& value);
+    bool write_plain_leaf(std::string const& name, std::string const& contents);
+    // "<name>" of a bare element, checked, with `room` more bytes reserved
+    // after it; null when the name is refused. The buffer is not committed.
+    char* open_plain_tag(std::string const& name, std::size_t room);
+    static char* close_tag(char* position, std::string const& name);
     // From the end of the start tag on: ">", the children, the end tag.
     bool write_content_and_end(velk::xml::element const& value);
     bool accept_name(std::string const& name);
