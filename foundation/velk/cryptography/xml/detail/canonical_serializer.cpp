@@ -310,7 +310,8 @@ bool canonical_serializer::write_element(velk::xml::element const& value)
 // declaration, and the very namespace of a parent that has no prefix either.
 // Such an element changes nothing in scope and renders no declaration, so
 // the walk of the scope is skipped for it.
-bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk::xml::element const& parent)
+[[gnu::always_inline]] inline bool canonical_serializer::plain_child_of(velk::xml::element const& child,
+                                                                     velk::xml::element const& parent)
 {
     using access = velk::xml::detail::element_access;
     auto const* const own = access::contents(child);
@@ -370,7 +371,8 @@ bool canonical_serializer::write_plain_element(velk::xml::element const& value)
 
 // Most elements of a document are bare ones holding one text: written here
 // whole, in one room of the buffer, without a walk of their children.
-bool canonical_serializer::write_plain_leaf(std::string const& name, std::string const& contents)
+[[gnu::always_inline]] inline bool canonical_serializer::write_plain_leaf(std::string const& name,
+                                                                       std::string const& contents)
 {
     char* position = open_plain_tag(name, contents.size() + name.size() + 3);
     if (position == nullptr) {
