@@ -58,24 +58,28 @@ std::string binary_encoder::encode(binary_encoding encoding, byte_array const& b
         }
         return text;
     }
-    // Written in place, four characters for every three bytes.
+    // Written in place, four characters for every three bytes, through plain
+    // pointers: stores through the string's operator[] would make the
+    // compiler reload both buffers' addresses after every character.
     text.resize((bytes.size() + 2) / 3 * 4);
-    std::size_t out = 0;
-    std::size_t i = 0;
-    for (; i + 3 <= bytes.size(); i += 3) {
-        unsigned int const block = (unsigned{bytes[i]} << 16) | (unsigned{bytes[i + 1]} << 8) | bytes[i + 2];
-        text[out++] = base64_alphabet[(block >> 18) & 63];
-        text[out++] = base64_alphabet[(block >> 12) & 63];
-        text[out++] = base64_alphabet[(block >> 6) & 63];
-        text[out++] = base64_alphabet[block & 63];
+    char* out = text.data();
+    unsigned char const* in = bytes.data();
+    unsigned char const* const whole_end = in + bytes.size() / 3 * 3;
+    for (; in != whole_end; in += 3) {
+        unsigned int const block = (unsigned{in[0]} << 16) | (unsigned{in[1]} << 8) | in[2];
+        out[0] = base64_alphabet[(block >> 18) & 63];
+        out[1] = base64_alphabet[(block >> 12) & 63];
+        out[2] = base64_alphabet[(block >> 6) & 63];
+        out[3] = base64_alphabet[block & 63];
+        out += 4;
     }
-    std::size_t const rest = bytes.size() - i;
+    std::size_t const rest = bytes.size() % 3;
     if (rest != 0) {
-        unsigned int const block = (unsigned{bytes[i]} << 16) | (rest == 2 ? unsigned{bytes[i + 1]} << 8 : 0U);
-        text[out++] = base64_alphabet[(block >> 18) & 63];
-        text[out++] = base64_alphabet[(block >> 12) & 63];
-        text[out++] = rest == 2 ? base64_alphabet[(block >> 6) & 63] : '=';
-        text[out++] = '=';
+        unsigned int const block = (unsigned{in[0]} << 16) | (rest == 2 ? unsigned{in[1]} << 8 : 0U);
+        out[0] = base64_alphabet[(block >> 18) & 63];
+        out[1] = base64_alphabet[(block >> 12) & 63];
+        out[2] = rest == 2 ? base64_alphabet[(block >> 6) & 63] : '=';
+        out[3] = '=';
     }
     return text;
 }

@@ -137,7 +137,7 @@ pkcs12 pkcs12::from_byte_array(core::byte_array const& bytes, std::string const&
     }
     x509_certificate certificate;
     certificate.impl_ =
-        std::make_shared<x509_certificate::impl const>(x509_certificate::impl{std::move(parsed.certificate)});
+        std::make_shared<x509_certificate::impl const>(std::move(parsed.certificate));
     evp_private_key key;
     key.impl_ = std::make_shared<evp_private_key::impl const>(std::move(parsed.key));
     return from_certificate_and_key(certificate, key, stack);

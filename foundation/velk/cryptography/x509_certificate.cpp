@@ -4,6 +4,7 @@
 #include <velk/cryptography/cryptography_result_category.hpp>
 #include <velk/cryptography/detail/openssl.hpp>
 
+#include <openssl/err.h>
 #include <openssl/pem.h>
 
 #include <ctime>
@@ -80,13 +81,28 @@ x509_certificate x509_certificate::from_byte_array(core::byte_array const& bytes
         return {};
     }
     x509_certificate certificate;
-    certificate.impl_ = std::make_shared<impl const>(impl{std::move(handle)});
+    certificate.impl_ = std::make_shared<impl const>(std::move(handle));
     return certificate;
 }
 
 bool x509_certificate::empty() const
 {
     return impl_ == nullptr;
+}
+
+core::byte_array const& x509_certificate::impl::der() const
+{
+    std::call_once(der_once_, [this] {
+        ERR_set_mark();
+        unsigned char* der = nullptr;
+        int const length = i2d_X509(handle.get(), &der);
+        if (length > 0) {
+            der_.assign(der, der + length);
+            OPENSSL_free(der);
+        }
+        ERR_pop_to_mark();
+    });
+    return der_;
 }
 
 core::byte_array x509_certificate::to_byte_array(encoding format, core::result::stack& stack) const
@@ -99,6 +115,9 @@ core::byte_array x509_certificate::to_byte_array(encoding format, core::result::
         return {};
     }
     if (format == encoding::der) {
+        if (core::byte_array const& kept = impl_->der(); !kept.empty()) {
+            return kept;
+        }
         unsigned char* der = nullptr;
         int const length = i2d_X509(impl_->handle.get(), &der);
         if (length <= 0) {

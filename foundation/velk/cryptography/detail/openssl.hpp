@@ -57,7 +57,19 @@ char const* unsupported_key_type(EVP_PKEY const* key);
 }  // namespace detail
 
 struct x509_certificate::impl {
+    explicit impl(detail::openssl_ptr<X509> certificate) : handle(std::move(certificate)) {}
+
+    // The DER form, encoded at its first use and kept, since the certificate
+    // never changes: a signer writes it into every signature. Empty when it
+    // could not be encoded: the OpenSSL errors of that attempt are dropped,
+    // and whoever reports the failure encodes anew.
+    core::byte_array const& der() const;
+
     detail::openssl_ptr<X509> handle;
+
+private:
+    mutable std::once_flag der_once_;
+    mutable core::byte_array der_;
 };
 
 struct evp_private_key::impl {

@@ -135,40 +135,60 @@ struct located {
     std::vector<element const*> ancestors;
 };
 
-void collect_by_id(element const& current, std::string_view id, std::vector<element const*>& path,
-                   std::vector<located>& found)
+// The attributes Id of an element that hold id.
+std::size_t ids_of(element const& value, std::string_view id)
 {
-    for (velk::xml::attribute const& attribute : current.get_attributes()) {
-        if (attribute.get_name() == "Id" && attribute.get_value() == id) {
-            found.push_back({&current, path});
+    std::size_t count = 0;
+    for (velk::xml::attribute const& attribute : value.get_attributes()) {
+        count += attribute.get_name() == "Id" && attribute.get_value() == id ? 1 : 0;
+    }
+    return count;
+}
+
+// Counts the Ids equal to id from `current` down, in document order; the
+// first element found becomes `first`, with its ancestors. With `around_first`
+// the subtree of that first element is not walked: the canonical walk of the
+// digest counts there instead.
+void collect_by_id(element const& current, std::string_view id, bool around_first,
+                   std::vector<element const*>& path, located& first, std::size_t& count)
+{
+    if (std::size_t const own = ids_of(current, id); own != 0) {
+        if (count == 0) {
+            first = {&current, path};
+        }
+        count += own;
+        if (around_first && first.target == &current) {
+            return;
         }
     }
     path.push_back(&current);
-    for (auto const& child : current.get_node_range()) {
+    for (velk::xml::node const& child : current.get_node_range()) {
         if (element const* nested = child.as_element()) {
-            collect_by_id(*nested, id, path, found);
+            collect_by_id(*nested, id, around_first, path, first, count);
         }
     }
     path.pop_back();
 }
 
-// The element a reference "#id" names: the one element whose Id is id.
-bool resolve(element const& root, std::string const& uri, located& target, core::result::stack& stack)
+// The element a reference "#id" names, when it is the one element whose Id
+// is id. With `around_target` the Ids under the element found are not
+// counted yet: the caller answers for them.
+bool resolve(element const& root, std::string const& uri, bool around_target, located& target,
+             core::result::stack& stack)
 {
-    std::vector<located> found;
+    std::size_t count = 0;
     if (uri.size() >= 2 && uri.front() == '#') {
         std::vector<element const*> path;
-        collect_by_id(root, std::string_view(uri).substr(1), path, found);
+        collect_by_id(root, std::string_view(uri).substr(1), around_target, path, target, count);
     }
-    if (found.empty()) {
+    if (count == 0) {
         core::result::fresh<category::reference_not_found>(stack, uri);
         return false;
     }
-    if (found.size() > 1) {
+    if (count > 1) {
         core::result::fresh<category::ambiguous_reference>(stack, uri);
         return false;
     }
-    target = std::move(found.front());
     return true;
 }
 
@@ -181,24 +201,51 @@ bool is_within(located const& place, element const* candidate)
 // Canonical XML 1.0 of the referenced element in its context, hashed. With
 // the enveloped-signature transform the Signature being computed is left out;
 // a reference into that Signature digests nothing.
+//
+// The tree is walked for the Id around the referenced element only; the Ids
+// under it are counted by the canonical walk itself, which visits that whole
+// subtree but for the Signature left out, counted apart. The failures are
+// those of a full walk first: when the canonical walk fails, a full walk
+// tells whether the reference was ambiguous all along.
 bool digest_reference(element const& root, element const& signature, detail::canonical_serializer& serializer,
                       reference_work& work, core::result::stack& stack)
 {
     located target;
-    if (!resolve(root, work.uri, target, stack)) {
+    if (!resolve(root, work.uri, true, target, stack)) {
         return false;
     }
     core::byte_array digest;
     if (work.enveloped && is_within(target, &signature)) {
-        // A reference into the Signature being computed digests nothing.
+        // A reference into the Signature being computed digests nothing; it
+        // is rare enough to be resolved by a full walk.
+        if (!resolve(root, work.uri, false, target, stack)) {
+            return false;
+        }
         cryptographic_hash const hash = cryptographic_hash::from_algorithm(work.algorithm, stack);
         if (stack.has_failed()) {
             return false;
         }
         digest = hash.finish(stack);
     } else {
-        digest = detail::digest_subtree(target.ancestors, *target.target, work.enveloped ? &signature : nullptr,
-                                        work.with_comments, work.algorithm, serializer, stack);
+        std::string_view const id = std::string_view(work.uri).substr(1);
+        element const* const excluded = work.enveloped ? &signature : nullptr;
+        // The Signature is a child of root: under the target only when the
+        // target is root.
+        std::size_t hidden = 0;
+        if (excluded != nullptr && target.target == &root) {
+            std::vector<element const*> path;
+            located ignored;
+            collect_by_id(*excluded, id, false, path, ignored, hidden);
+        }
+        digest = detail::digest_subtree(target.ancestors, *target.target, excluded, work.with_comments,
+                                        work.algorithm, serializer, stack, id);
+        bool const ambiguous = stack.has_failed() ? !resolve(root, work.uri, false, target, stack)
+                                                  : serializer.counted_ids() + hidden > 1;
+        if (ambiguous) {
+            stack.reset();
+            core::result::fresh<category::ambiguous_reference>(stack, work.uri);
+            return false;
+        }
     }
     if (stack.has_failed()) {
         return false;

@@ -42,6 +42,46 @@ constexpr std::array<unsigned char, 256> make_escapes()
 
 constexpr std::array<unsigned char, 256> escapes = make_escapes();
 
+// ASCII name characters: those a name may start with, and those it may hold
+// after the first. The colon is left out: a prefixed name takes the full check.
+enum name_kind : unsigned char { name_inside = 1, name_start = 2 };
+static_assert(name_start >> 1 == name_inside);
+
+constexpr std::array<unsigned char, 256> make_name_kinds()
+{
+    std::array<unsigned char, 256> table{};
+    for (int c = 'A'; c <= 'Z'; ++c) {
+        table[c] = name_inside | name_start;
+        table[c + ('a' - 'A')] = name_inside | name_start;
+    }
+    for (int c = '0'; c <= '9'; ++c) {
+        table[c] = name_inside;
+    }
+    table['_'] = name_inside | name_start;
+    table['-'] = name_inside;
+    table['.'] = name_inside;
+    return table;
+}
+
+constexpr std::array<unsigned char, 256> name_kinds = make_name_kinds();
+
+// The tree's own rule for element names, decided here without a call for the
+// names nearly every document has: a few ASCII letters, no prefix.
+bool is_element_name(std::string const& name)
+{
+    std::size_t const size = name.size();
+    if (size != 0 && (name_kinds[static_cast<unsigned char>(name[0])] & name_start) != 0) {
+        std::size_t index = 1;
+        while (index < size && (name_kinds[static_cast<unsigned char>(name[index])] & name_inside) != 0) {
+            ++index;
+        }
+        if (index == size) {
+            return true;
+        }
+    }
+    return velk::xml::is_qualified_name(name);
+}
+
 std::string_view escape_of(char c)
 {
     switch (c) {
@@ -137,6 +177,8 @@ bool canonical_serializer::write(subtree const& what, sink const& output, core::
     excluded_ = what.excluded;
     replacements_ = what.replacements;
     with_comments_ = what.with_comments;
+    counted_id_ = what.counted_id;
+    counted_ids_ = 0;
     output_ = &output;
     bool const written = write_apex(what);
     if (written && out_.size() != 0) {
@@ -158,13 +200,21 @@ void canonical_serializer::flush_if_full()
     }
 }
 
+// The tree's own rule: a name it can save is a name the canonical form takes,
+// and one it would refuse to save is refused here too.
+bool canonical_serializer::accept_name(std::string const& name)
+{
+    if (is_element_name(name)) {
+        return true;
+    }
+    problem_ = "nome de elemento inválido: \"" + name + "\"";
+    return false;
+}
+
 bool canonical_serializer::start_tag(velk::xml::element const& value)
 {
-    // The tree's own rule: a name it can save is a name the canonical form
-    // takes, and one it would refuse to save is refused here too.
-    std::string const& name = value.get_qualified_name();
-    if (!velk::xml::is_qualified_name(name)) {
-        problem_ = "nome de elemento inválido: \"" + name + "\"";
+    std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
+    if (!accept_name(name)) {
         return false;
     }
     out_.put('<');
@@ -220,7 +270,7 @@ bool canonical_serializer::write_content_and_end(velk::xml::element const& value
         return false;
     }
     out_.put("</");
-    out_.put(value.get_qualified_name());
+    out_.put(velk::xml::detail::element_access::contents(value)->qualified_name);
     out_.put('>');
     return true;
 }
@@ -260,7 +310,8 @@ bool canonical_serializer::write_element(velk::xml::element const& value)
 // declaration, and the very namespace of a parent that has no prefix either.
 // Such an element changes nothing in scope and renders no declaration, so
 // the walk of the scope is skipped for it.
-bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk::xml::element const& parent)
+[[gnu::always_inline]] inline bool canonical_serializer::plain_child_of(velk::xml::element const& child,
+                                                                     velk::xml::element const& parent)
 {
     using access = velk::xml::detail::element_access;
     auto const* const own = access::contents(child);
@@ -269,11 +320,77 @@ bool canonical_serializer::plain_child_of(velk::xml::element const& child, velk:
            above->prefixed_local_name == nullptr && own->namespace_uri == above->namespace_uri;
 }
 
+// Both tag writers run once per element: inlined into their two callers,
+// which a call per tag would cost a good part of an element's time.
+[[gnu::always_inline]] inline char* canonical_serializer::open_plain_tag(std::string const& name, std::size_t room)
+{
+    std::size_t const size = name.size();
+    char* position = out_.reserve(size + 2 + room);
+    *position++ = '<';
+    // The name copied and checked in one pass, as is_element_name checks it
+    // (the first character read as the string's terminator when empty).
+    char const* const source = name.data();
+    unsigned valid = name_kinds[static_cast<unsigned char>(source[0])] >> 1;
+    for (std::size_t index = 0; index < size; ++index) {
+        position[index] = source[index];
+        valid &= name_kinds[static_cast<unsigned char>(source[index])];
+    }
+    if (valid == 0 && !accept_name(name)) {
+        return nullptr;
+    }
+    position += size;
+    *position++ = '>';
+    return position;
+}
+
+[[gnu::always_inline]] inline char* canonical_serializer::close_tag(char* position, std::string const& name)
+{
+    *position++ = '<';
+    *position++ = '/';
+    buffer::copy(position, name.data(), name.size());
+    position += name.size();
+    *position++ = '>';
+    return position;
+}
+
 bool canonical_serializer::write_plain_element(velk::xml::element const& value)
 {
-    if (!start_tag(value) || !write_content_and_end(value)) {
+    std::string const& name = velk::xml::detail::element_access::contents(value)->qualified_name;
+    char* position = open_plain_tag(name, 0);
+    if (position == nullptr) {
         return false;
     }
+    out_.commit(position);
+    if (!write_children(value)) {
+        return false;
+    }
+    out_.commit(close_tag(out_.reserve(name.size() + 3), name));
+    flush_if_full();
+    return true;
+}
+
+// Most elements of a document are bare ones holding one text: written here
+// whole, in one room of the buffer, without a walk of their children.
+[[gnu::always_inline]] inline bool canonical_serializer::write_plain_leaf(std::string const& name,
+                                                                       std::string const& contents)
+{
+    char* position = open_plain_tag(name, contents.size() + name.size() + 3);
+    if (position == nullptr) {
+        return false;
+    }
+    std::size_t index = 0;
+    std::size_t const size = contents.size();
+    while (index < size && (escapes[static_cast<unsigned char>(contents[index])] & in_text) == 0) {
+        position[index] = contents[index];
+        ++index;
+    }
+    position += index;
+    if (index < size) {
+        out_.commit(position);
+        write_escaped(std::string_view(contents).substr(index), in_text);
+        position = out_.reserve(name.size() + 3);
+    }
+    out_.commit(close_tag(position, name));
     flush_if_full();
     return true;
 }
@@ -316,6 +433,9 @@ void canonical_serializer::gather_attributes(velk::xml::element const& value)
     attributes_.clear();
     for (velk::xml::attribute const& property : value.get_attributes()) {
         std::string_view const name = property.get_name();
+        if (!counted_id_.empty() && name == "Id" && property.get_value() == counted_id_) {
+            ++counted_ids_;
+        }
         std::string_view const prefix = velk::xml::prefix_of(name);
         std::string_view uri;
         if (prefix == "xml") {
@@ -355,12 +475,29 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
             return true;
         }
     }
-    for (velk::xml::node const& child : value.get_node_range()) {
+    // The children straight from the tree's list: this loop runs for every
+    // element of the document.
+    using access = velk::xml::detail::element_access;
+    for (velk::xml::node const& child : access::contents(value)->children) {
         if (velk::xml::element const* nested = child.as_element()) {
             if (nested == excluded_) {
                 continue;
             }
-            if (!(plain_child_of(*nested, value) ? write_plain_element(*nested) : write_element(*nested))) {
+            if (!plain_child_of(*nested, value)) {
+                if (!write_element(*nested)) {
+                    return false;
+                }
+                continue;
+            }
+            velk::xml::node_list const& grandchildren = access::contents(*nested)->children;
+            velk::xml::text const* only_text = replacements_.empty() && grandchildren.size() == 1
+                                                   ? grandchildren.front().as_text()
+                                                   : nullptr;
+            bool const written = only_text != nullptr
+                                     ? write_plain_leaf(access::contents(*nested)->qualified_name,
+                                                        only_text->get_contents())
+                                     : write_plain_element(*nested);
+            if (!written) {
                 return false;
             }
         } else if (velk::xml::text const* contents = child.as_text()) {

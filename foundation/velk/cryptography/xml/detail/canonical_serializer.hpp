@@ -50,6 +50,10 @@ public:
         velk::xml::element const* excluded = nullptr;
         std::span<replacement const> replacements = {};
         bool with_comments = false;
+        // When not empty, the attributes Id holding this value are counted
+        // on the elements written, apex included: a signer learns so whether
+        // the Id it resolved is unique under apex without a walk of its own.
+        std::string_view counted_id = {};
     };
 
     // Receives the canonical bytes in order, in pieces.
@@ -59,6 +63,9 @@ public:
     // namespace URI that is not absolute, as the tree refuses to save them;
     // what went out before the failure is then to be thrown away.
     bool write(subtree const& what, sink const& output, core::result::stack& stack);
+
+    // The attributes counted by the last write (see subtree::counted_id).
+    std::size_t counted_ids() const { return counted_ids_; }
 
 private:
     // The bytes written and not handed over yet; appends are inline. Its
@@ -82,8 +89,38 @@ private:
             if (capacity_ - size_ < text.size()) {
                 grow(text.size());
             }
-            std::memcpy(data_.get() + size_, text.data(), text.size());
+            copy(data_.get() + size_, text.data(), text.size());
             size_ += text.size();
+        }
+        // Room for `size` more bytes, written from the pointer returned and
+        // closed by commit with the pointer past the last one written.
+        char* reserve(std::size_t size)
+        {
+            if (capacity_ - size_ < size) {
+                grow(size);
+            }
+            return data_.get() + size_;
+        }
+        void commit(char const* end) { size_ = static_cast<std::size_t>(end - data_.get()); }
+        // Most pieces are names and short values: copied by a few moves
+        // instead of a call.
+        static void copy(char* target, char const* source, std::size_t size)
+        {
+            if (size >= 8) {
+                if (size > 16) {
+                    std::memcpy(target, source, size);
+                    return;
+                }
+                std::memcpy(target, source, 8);
+                std::memcpy(target + size - 8, source + size - 8, 8);
+            } else if (size >= 4) {
+                std::memcpy(target, source, 4);
+                std::memcpy(target + size - 4, source + size - 4, 4);
+            } else if (size != 0) {
+                target[0] = source[0];
+                target[size / 2] = source[size / 2];
+                target[size - 1] = source[size - 1];
+            }
         }
         std::string_view view() const { return {data_.get(), size_}; }
         std::size_t size() const { return size_; }
@@ -108,8 +145,14 @@ private:
     bool write_element(velk::xml::element const& value);
     static bool plain_child_of(velk::xml::element const& child, velk::xml::element const& parent);
     bool write_plain_element(velk::xml::element const& value);
+    bool write_plain_leaf(std::string const& name, std::string const& contents);
+    // "<name>" of a bare element, checked, with `room` more bytes reserved
+    // after it; null when the name is refused. The buffer is not committed.
+    char* open_plain_tag(std::string const& name, std::size_t room);
+    static char* close_tag(char* position, std::string const& name);
     // From the end of the start tag on: ">", the children, the end tag.
     bool write_content_and_end(velk::xml::element const& value);
+    bool accept_name(std::string const& name);
     bool start_tag(velk::xml::element const& value);
     bool write_children(velk::xml::element const& value);
     // Writes declarations_ in the order of their prefixes.
@@ -129,6 +172,8 @@ private:
     velk::xml::element const* excluded_ = nullptr;
     std::span<replacement const> replacements_;
     bool with_comments_ = false;
+    std::string_view counted_id_;
+    std::size_t counted_ids_ = 0;
     sink const* output_ = nullptr;
     std::string problem_;
 };

@@ -9,7 +9,7 @@ namespace detail {
 core::byte_array digest_subtree(std::span<velk::xml::element const* const> ancestors, velk::xml::element const& apex,
                                 velk::xml::element const* excluded, bool with_comments,
                                 cryptographic_hash::algorithm algorithm, canonical_serializer& serializer,
-                                core::result::stack& stack)
+                                core::result::stack& stack, std::string_view counted_id)
 {
     cryptographic_hash hash = cryptographic_hash::from_algorithm(algorithm, stack);
     if (stack.has_failed()) {
@@ -18,7 +18,7 @@ core::byte_array digest_subtree(std::span<velk::xml::element const* const> ances
     auto const feed = [&hash](std::string_view piece) {
         hash.update(reinterpret_cast<unsigned char const*>(piece.data()), piece.size());
     };
-    canonical_serializer::subtree const what{ancestors, apex, excluded, {}, with_comments};
+    canonical_serializer::subtree const what{ancestors, apex, excluded, {}, with_comments, counted_id};
     if (!serializer.write(what, feed, stack)) {
         return {};
     }

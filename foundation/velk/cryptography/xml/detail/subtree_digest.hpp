@@ -18,11 +18,12 @@ namespace detail {
 
 // `ancestors` are those of `apex` from the root of its tree, outermost first;
 // `excluded` (null for none) is left out with everything under it. Empty bytes
-// and the stack failed on failure.
+// and the stack failed on failure. `counted_id`, when not empty, is counted
+// as subtree::counted_id says, the count left in the serializer.
 core::byte_array digest_subtree(std::span<velk::xml::element const* const> ancestors, velk::xml::element const& apex,
                                 velk::xml::element const* excluded, bool with_comments,
                                 cryptographic_hash::algorithm algorithm, canonical_serializer& serializer,
-                                core::result::stack& stack);
+                                core::result::stack& stack, std::string_view counted_id = {});
 
 }  // namespace detail
 }  // namespace xml

@@ -111,6 +111,9 @@ TEST(canonical_serializer, writes_what_libxml2_writes_from_the_saved_text)
         {"escapes in texts and attribute values",
          parsed("<r><inf a='&amp; &lt; &gt; &quot; &apos; &#9; &#10; &#13; x'>&amp; &lt; &gt; \" ' &#13; &#9;\n"
                 "</inf></r>")},
+        {"escapes in the one text of bare elements, and a bare element named beyond ASCII",
+         parsed("<r><inf><v>&amp;x &lt; &gt; &#13; \" '</v><w>nada a escapar, mais de oito bytes</w>"
+                "<x>fim &amp;</x><y>&#13;</y><z></z><v\xD1\x9D>\xC3\xA7</v\xD1\x9D></inf></r>")},
         {"CDATA sections", parsed("<r><inf><![CDATA[a]]]]><![CDATA[>b & <c>\nd]]><v><![CDATA[]]></v></inf></r>")},
         {"comments and processing instructions",
          parsed("<r><!--antes--><inf><!-- c1 --><?t d  e?><?e?><v/><!--c2--></inf><?depois x?></r>")},

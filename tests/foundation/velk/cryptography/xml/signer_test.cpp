@@ -16,6 +16,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <functional>
+#include <iterator>
 #include <string>
 
 namespace velk::cryptography::xml {
@@ -229,6 +231,80 @@ TEST(signer, reports_failures_and_leaves_the_template_unsigned)
         ASSERT_NE(local.top().find_argument(failing.argument), nullptr) << local.to_string();
         EXPECT_EQ(*local.top().find_argument(failing.argument), failing.value);
         EXPECT_EQ(saved_text(nfe), before) << "the tree is left as it was";
+    }
+}
+
+TEST(signer, finds_a_second_id_wherever_it_stands)
+{
+    // The walk for the Id stops at the element found; what lies under it is
+    // counted by the canonical walk of the digest, the Signature left out of
+    // that walk apart. A second Id anywhere is reported the same, and before
+    // a name the canonical form refuses.
+    std::string const lote =
+        "<lote xmlns=\"urn:velk:teste\" Id=\"L1\"><item Id=\"I1\"><parte>um</parte></item>"
+        "<item Id=\"I2\">dois</item></lote>";
+    auto const nth_child = [](velk::xml::element& parent, std::size_t index) -> velk::xml::element& {
+        auto children = parent.get_node_range();
+        auto position = children.begin();
+        std::advance(position, index);
+        return *position->as_element();
+    };
+    auto const set_id = [](velk::xml::element& target, char const* value) {
+        if (velk::xml::attribute* id = target.find_attribute("", "Id")) {
+            id->set_value(value);
+        } else {
+            core::result::stack ignored;
+            target.append_attribute(velk::xml::attribute("Id", value), ignored);
+        }
+    };
+    struct placement {
+        char const* name;
+        std::string uri;
+        // Changes the document, its Signature template last.
+        std::function<void(velk::xml::element&)> change;
+        int code;  // 0 for success
+    };
+    placement const cases[] = {
+        {"unique, under the signed root", "#L1", [](velk::xml::element&) {}, 0},
+        {"unique, in the first item", "#I1", [](velk::xml::element&) {}, 0},
+        {"again in a later sibling", "#I1",
+         [&](velk::xml::element& root) { set_id(nth_child(root, 1), "I1"); }, 14},
+        {"again in an earlier sibling", "#I2",
+         [&](velk::xml::element& root) { set_id(nth_child(root, 0), "I2"); }, 14},
+        {"again under the element found", "#I1",
+         [&](velk::xml::element& root) {
+             set_id(nth_child(nth_child(root, 0), 0), "I1");
+         }, 14},
+        {"again inside the Signature left out", "#L1",
+         [&](velk::xml::element& root) { set_id(nth_child(nth_child(root, 2), 0), "L1"); }, 14},
+        {"again inside the Signature, another element signed", "#I1",
+         [&](velk::xml::element& root) { set_id(nth_child(root, 2), "I1"); }, 14},
+        {"again after a name the canonical form refuses", "#I1",
+         [&](velk::xml::element& root) {
+             velk::xml::element& item = nth_child(root, 0);
+             item.append_node(velk::xml::element("1parte"));
+             item.append_node(velk::xml::element("parte"));
+             set_id(nth_child(item, 2), "I1");
+         }, 14},
+        {"a name the canonical form refuses, the Id unique", "#I1",
+         [&](velk::xml::element& root) { nth_child(root, 0).append_node(velk::xml::element("1parte")); }, 16},
+    };
+    pkcs12 const certificate = taxpayer_pkcs12();
+    for (auto const& tried : cases) {
+        SCOPED_TRACE(tried.name);
+        velk::xml::element document = parse_element(lote);
+        core::result::stack stack;
+        document.append_node(nfe_signature_template(tried.uri, stack));
+        tried.change(document);
+        bool const signed_ = signer(certificate.get_certificate(), certificate.get_evp_private_key()).execute(document, stack);
+        if (tried.code == 0) {
+            EXPECT_TRUE(signed_) << stack.to_string();
+            continue;
+        }
+        EXPECT_FALSE(signed_);
+        ASSERT_TRUE(stack.has_failed());
+        EXPECT_EQ(stack.get_value(), tried.code) << stack.to_string();
+        EXPECT_EQ(stack.size(), 1U) << stack.to_string();
     }
 }
 
