@@ -1,6 +1,8 @@
 #include <velk/core/decimal.hpp>
 
 #include <algorithm>
+#include <charconv>
+#include <cstring>
 
 namespace velk::core {
 inline namespace v3 {
@@ -26,6 +28,55 @@ void increment(std::string& digits)
         }
     }
     digits.insert(digits.begin(), '1');
+}
+
+// The text of a value that has no more places than asked, the common case of
+// amounts written to a fixed number of places: its digits followed by the
+// missing zeros, written at once. False, and nothing written, for a value to
+// be rounded or one too long for the buffer.
+bool padded_text(unsigned long long magnitude, bool negative, unsigned int decimals, char separator,
+                 short exponent, std::string& text)
+{
+    constexpr long long most_places = 40;
+    long long const places = -static_cast<long long>(exponent);
+    long long const wanted = decimals;
+    if (places > wanted || wanted > most_places || wanted - places > most_places) {
+        return false;
+    }
+    // The value's digits with exactly `wanted` places, at most 20 + 40.
+    char digits[64];
+    char* end = std::to_chars(digits, digits + 20, magnitude).ptr;
+    std::size_t const zeros = static_cast<std::size_t>(wanted - places);
+    std::memset(end, '0', zeros);
+    end += zeros;
+    auto const count = static_cast<std::size_t>(end - digits);
+    auto const fraction = static_cast<std::size_t>(wanted);
+
+    char out[128];
+    char* at = out;
+    if (negative && magnitude != 0) {
+        *at++ = '-';
+    }
+    if (count > fraction) {
+        std::memcpy(at, digits, count - fraction);
+        at += count - fraction;
+    } else {
+        *at++ = '0';
+    }
+    if (fraction > 0) {
+        *at++ = separator;
+        if (count < fraction) {
+            std::memset(at, '0', fraction - count);
+            at += fraction - count;
+            std::memcpy(at, digits, count);
+            at += count;
+        } else {
+            std::memcpy(at, end - fraction, fraction);
+            at += fraction;
+        }
+    }
+    text.assign(out, static_cast<std::size_t>(at - out));
+    return true;
 }
 
 }  // namespace
@@ -71,6 +122,9 @@ std::string decimal::to_string(unsigned int decimals, char separator) const
     bool const negative = unscaled_ < 0;
     unsigned long long const magnitude =
         negative ? 0ULL - static_cast<unsigned long long>(unscaled_) : static_cast<unsigned long long>(unscaled_);
+    if (std::string text; padded_text(magnitude, negative, decimals, separator, exponent_, text)) {
+        return text;
+    }
 
     // Digits of the value with exactly `decimals` places, as one integer string.
     std::string digits = digits_of(magnitude);

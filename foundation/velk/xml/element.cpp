@@ -149,6 +149,17 @@ void element::impl::set_name(std::string name)
     qualified_name = std::move(name);
 }
 
+void element::impl::set_name(std::string_view name)
+{
+    std::string_view const local = detail::local_part_of(name);
+    if (local.size() == name.size()) {
+        prefixed_local_name.reset();
+    } else {
+        prefixed_local_name = std::make_unique<std::string>(local);
+    }
+    qualified_name.assign(name);
+}
+
 std::string_view element::impl::prefix() const
 {
     if (prefixed_local_name == nullptr) {
@@ -174,7 +185,7 @@ element::element() : impl_(std::make_unique<impl>()) {}
 
 element::element(std::string const& name) : impl_(std::make_unique<impl>())
 {
-    impl_->set_name(name);
+    impl_->set_name(std::string_view(name));
 }
 
 element::element(std::string const& name, text const& contents) : element(name)
@@ -295,6 +306,17 @@ void element::append_node(node const& child)
 void element::append_node(node&& child)
 {
     adopt_namespace(impl_->children.emplace_back(std::move(child)));
+}
+
+element& element::append_element(std::string_view name)
+{
+    auto contents = std::make_unique<impl>();
+    contents->set_name(name);
+    // What adopt would give the child once under this element, given now.
+    if (impl_->namespace_uri != nullptr || impl_->more != nullptr) {
+        contents->namespace_uri = resolve(*impl_, contents->prefix());
+    }
+    return *impl_->children.emplace_back(element(std::move(contents))).as_element();
 }
 
 attribute* element::find_attribute(std::string const& namespace_uri, std::string const& name)

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velk::xml {
@@ -45,6 +46,7 @@ struct element::impl {
 
     // Sets both names from the name as written ("soap:Body").
     void set_name(std::string name);
+    void set_name(std::string_view name);
     // The prefix as a view into the qualified name; empty when none.
     std::string_view prefix() const;
     std::string const& local_name() const { return prefixed_local_name ? *prefixed_local_name : qualified_name; }
