@@ -1,8 +1,7 @@
 #include <velk/core/decimal.hpp>
 
 #include <algorithm>
-#include <charconv>
-#include <cstring>
+#include <string_view>
 
 namespace velk::core {
 inline namespace v3 {
@@ -31,52 +30,44 @@ void increment(std::string& digits)
 }
 
 // The text of a value that has no more places than asked, the common case of
-// amounts written to a fixed number of places: its digits followed by the
-// missing zeros, written at once. False, and nothing written, for a value to
-// be rounded or one too long for the buffer.
-bool padded_text(unsigned long long magnitude, bool negative, unsigned int decimals, char separator,
-                 short exponent, std::string& text)
+// amounts written to a fixed number of places, written into `buffer` from the
+// last place back: the missing zeros, the value's digits with the separator
+// once the places are done, and a zero for an integral part without digits.
+// Empty for a value to be rounded, or one too long for the buffer.
+std::string_view padded_text(unsigned long long magnitude, bool negative, unsigned int decimals, char separator,
+                             short exponent, char (&buffer)[128])
 {
     constexpr long long most_places = 40;
     long long const places = -static_cast<long long>(exponent);
     long long const wanted = decimals;
     if (places > wanted || wanted > most_places || wanted - places > most_places) {
-        return false;
+        return {};
     }
-    // The value's digits with exactly `wanted` places, at most 20 + 40.
-    char digits[64];
-    char* end = std::to_chars(digits, digits + 20, magnitude).ptr;
-    std::size_t const zeros = static_cast<std::size_t>(wanted - places);
-    std::memset(end, '0', zeros);
-    end += zeros;
-    auto const count = static_cast<std::size_t>(end - digits);
-    auto const fraction = static_cast<std::size_t>(wanted);
-
-    char out[128];
-    char* at = out;
-    if (negative && magnitude != 0) {
-        *at++ = '-';
-    }
-    if (count > fraction) {
-        std::memcpy(at, digits, count - fraction);
-        at += count - fraction;
-    } else {
-        *at++ = '0';
-    }
-    if (fraction > 0) {
-        *at++ = separator;
-        if (count < fraction) {
-            std::memset(at, '0', fraction - count);
-            at += fraction - count;
-            std::memcpy(at, digits, count);
-            at += count;
-        } else {
-            std::memcpy(at, end - fraction, fraction);
-            at += fraction;
+    char* const end = buffer + sizeof buffer;
+    char* at = end;
+    long long written = 0;
+    auto const put = [&](char digit) {
+        if (written == wanted && wanted > 0) {
+            *--at = separator;
         }
+        *--at = digit;
+        ++written;
+    };
+    for (long long place = places; place < wanted; ++place) {
+        put('0');
     }
-    text.assign(out, static_cast<std::size_t>(at - out));
-    return true;
+    unsigned long long rest = magnitude;
+    do {
+        put(static_cast<char>('0' + rest % 10));
+        rest /= 10;
+    } while (rest != 0);
+    while (written <= wanted) {
+        put('0');
+    }
+    if (negative && magnitude != 0) {
+        *--at = '-';
+    }
+    return {at, static_cast<std::size_t>(end - at)};
 }
 
 }  // namespace
@@ -122,8 +113,10 @@ std::string decimal::to_string(unsigned int decimals, char separator) const
     bool const negative = unscaled_ < 0;
     unsigned long long const magnitude =
         negative ? 0ULL - static_cast<unsigned long long>(unscaled_) : static_cast<unsigned long long>(unscaled_);
-    if (std::string text; padded_text(magnitude, negative, decimals, separator, exponent_, text)) {
-        return text;
+    char buffer[128];
+    if (std::string_view const padded = padded_text(magnitude, negative, decimals, separator, exponent_, buffer);
+        !padded.empty()) {
+        return std::string(padded);
     }
 
     // Digits of the value with exactly `decimals` places, as one integer string.

@@ -149,15 +149,12 @@ void element::impl::set_name(std::string name)
     qualified_name = std::move(name);
 }
 
-void element::impl::set_name(std::string_view name)
+element::impl::impl(std::string_view name) : qualified_name(name)
 {
     std::string_view const local = detail::local_part_of(name);
-    if (local.size() == name.size()) {
-        prefixed_local_name.reset();
-    } else {
+    if (local.size() != name.size()) {
         prefixed_local_name = std::make_unique<std::string>(local);
     }
-    qualified_name.assign(name);
 }
 
 std::string_view element::impl::prefix() const
@@ -183,10 +180,7 @@ element::impl::extras& element::impl::more_or_new()
 
 element::element() : impl_(std::make_unique<impl>()) {}
 
-element::element(std::string const& name) : impl_(std::make_unique<impl>())
-{
-    impl_->set_name(std::string_view(name));
-}
+element::element(std::string const& name) : impl_(std::make_unique<impl>(std::string_view(name))) {}
 
 element::element(std::string const& name, text const& contents) : element(name)
 {
@@ -310,11 +304,14 @@ void element::append_node(node&& child)
 
 element& element::append_element(std::string_view name)
 {
-    auto contents = std::make_unique<impl>();
-    contents->set_name(name);
+    auto contents = std::make_unique<impl>(name);
     // What adopt would give the child once under this element, given now.
-    if (impl_->namespace_uri != nullptr || impl_->more != nullptr) {
+    if (impl_->more != nullptr) {
         contents->namespace_uri = resolve(*impl_, contents->prefix());
+    } else if (impl_->namespace_uri != nullptr && impl_->prefix() == contents->prefix()) {
+        // Nothing declared here: a child written with this element's prefix
+        // is in its namespace.
+        contents->namespace_uri = impl_->namespace_uri;
     }
     return *impl_->children.emplace_back(element(std::move(contents))).as_element();
 }

@@ -41,12 +41,13 @@ struct element::impl {
     static void operator delete(void* block, std::size_t size) noexcept { block_memory::give(block, size); }
 
     impl() = default;
+    // An element of that name as written, with nothing else.
+    explicit impl(std::string_view name);
     impl(impl const& other);
     impl& operator=(impl const&) = delete;
 
     // Sets both names from the name as written ("soap:Body").
     void set_name(std::string name);
-    void set_name(std::string_view name);
     // The prefix as a view into the qualified name; empty when none.
     std::string_view prefix() const;
     std::string const& local_name() const { return prefixed_local_name ? *prefixed_local_name : qualified_name; }
