@@ -149,6 +149,8 @@ void element::impl::set_name(std::string name)
     qualified_name = std::move(name);
 }
 
+element::impl::~impl() = default;
+
 element::impl::impl(std::string_view name) : qualified_name(name)
 {
     std::string_view const local = detail::local_part_of(name);

@@ -45,6 +45,9 @@ struct element::impl {
     explicit impl(std::string_view name);
     impl(impl const& other);
     impl& operator=(impl const&) = delete;
+    // Out of line, so that the owner's pointer is small enough to be inlined
+    // and a moved-from element costs no call when it goes.
+    ~impl();
 
     // Sets both names from the name as written ("soap:Body").
     void set_name(std::string name);
