@@ -24,24 +24,27 @@ bool texto_convertido(std::string_view tag, Valor const& valor, std::string& tex
     return true;
 }
 
-}  // namespace
-
-bool txt(xml::element& pai, std::string_view tag, std::string const& valor, core::result::stack&)
+// The element with its text, copied or moved into it as given.
+template <class Texto>
+bool escrever_texto(xml::element& pai, std::string_view tag, Texto&& valor)
 {
     xml::element& elemento = pai.append_element(tag);
     if (!valor.empty()) {
-        elemento.append_node(xml::text(valor));
+        elemento.append_node(xml::text(std::forward<Texto>(valor)));
     }
     return true;
 }
 
+}  // namespace
+
+bool txt(xml::element& pai, std::string_view tag, std::string const& valor, core::result::stack&)
+{
+    return escrever_texto(pai, tag, valor);
+}
+
 bool txt(xml::element& pai, std::string_view tag, std::string&& valor, core::result::stack&)
 {
-    xml::element& elemento = pai.append_element(tag);
-    if (!valor.empty()) {
-        elemento.append_node(xml::text(std::move(valor)));
-    }
-    return true;
+    return escrever_texto(pai, tag, std::move(valor));
 }
 
 bool u(xml::element& pai, std::string_view tag, std::uint64_t valor, core::result::stack& stack,
