@@ -1,6 +1,7 @@
 #include <velk/core/decimal.hpp>
 
 #include <algorithm>
+#include <string_view>
 
 namespace velk::core {
 inline namespace v3 {
@@ -26,6 +27,47 @@ void increment(std::string& digits)
         }
     }
     digits.insert(digits.begin(), '1');
+}
+
+// The text of a value that has no more places than asked, the common case of
+// amounts written to a fixed number of places, written into `buffer` from the
+// last place back: the missing zeros, the value's digits with the separator
+// once the places are done, and a zero for an integral part without digits.
+// Empty for a value to be rounded, or one too long for the buffer.
+std::string_view padded_text(unsigned long long magnitude, bool negative, unsigned int decimals, char separator,
+                             short exponent, char (&buffer)[128])
+{
+    constexpr long long most_places = 40;
+    long long const places = -static_cast<long long>(exponent);
+    long long const wanted = decimals;
+    if (places > wanted || wanted > most_places || wanted - places > most_places) {
+        return {};
+    }
+    char* const end = buffer + sizeof buffer;
+    char* at = end;
+    long long written = 0;
+    auto const put = [&](char digit) {
+        if (written == wanted && wanted > 0) {
+            *--at = separator;
+        }
+        *--at = digit;
+        ++written;
+    };
+    for (long long place = places; place < wanted; ++place) {
+        put('0');
+    }
+    unsigned long long rest = magnitude;
+    do {
+        put(static_cast<char>('0' + rest % 10));
+        rest /= 10;
+    } while (rest != 0);
+    while (written <= wanted) {
+        put('0');
+    }
+    if (negative && magnitude != 0) {
+        *--at = '-';
+    }
+    return {at, static_cast<std::size_t>(end - at)};
 }
 
 }  // namespace
@@ -71,6 +113,11 @@ std::string decimal::to_string(unsigned int decimals, char separator) const
     bool const negative = unscaled_ < 0;
     unsigned long long const magnitude =
         negative ? 0ULL - static_cast<unsigned long long>(unscaled_) : static_cast<unsigned long long>(unscaled_);
+    char buffer[128];
+    if (std::string_view const padded = padded_text(magnitude, negative, decimals, separator, exponent_, buffer);
+        !padded.empty()) {
+        return std::string(padded);
+    }
 
     // Digits of the value with exactly `decimals` places, as one integer string.
     std::string digits = digits_of(magnitude);

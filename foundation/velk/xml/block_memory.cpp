@@ -26,6 +26,8 @@ struct shelves {
     std::array<free_block*, shelf_count> first;
     std::size_t kept_bytes;
     bool closed;
+    // Whether the release at the thread's end is set up.
+    bool release_set;
 };
 
 constinit thread_local shelves kept{};
@@ -51,6 +53,15 @@ struct release_at_exit {
 };
 
 thread_local release_at_exit releaser;
+
+// Apart from give, so that its usual path reaches the thread's shelves once
+// (given back, they are not looked up again).
+[[gnu::noinline]] shelves* set_release(shelves* mine)
+{
+    mine->release_set = true;
+    static_cast<void>(&releaser);
+    return mine;
+}
 
 // The shelf of a size; none (shelf_count or more) for 0, which wraps around,
 // and for sizes beyond the last step.
@@ -101,18 +112,21 @@ void block_memory::give(void* block, std::size_t size) noexcept
         ::operator delete(block);
         return;
     }
-    shelves& mine = kept;
+    shelves* mine = &kept;
     std::size_t const bytes = (shelf + 1) * step;
-    if (mine.closed || mine.kept_bytes + bytes > kept_bytes_limit) {
+    if (mine->closed || mine->kept_bytes + bytes > kept_bytes_limit) {
         ::operator delete(block);
         return;
     }
-    // Touching it makes the thread release what it keeps when it ends.
-    static_cast<void>(&releaser);
+    // Touching it makes the thread release what it keeps when it ends; once
+    // is enough, and spares every other piece the check of its guard.
+    if (!mine->release_set) {
+        mine = set_release(mine);
+    }
     auto* const freed = static_cast<free_block*>(block);
-    freed->next = mine.first[shelf];
-    mine.first[shelf] = freed;
-    mine.kept_bytes += bytes;
+    freed->next = mine->first[shelf];
+    mine->first[shelf] = freed;
+    mine->kept_bytes += bytes;
 }
 
 }  // namespace v3

@@ -149,6 +149,16 @@ void element::impl::set_name(std::string name)
     qualified_name = std::move(name);
 }
 
+element::impl::~impl() = default;
+
+element::impl::impl(std::string_view name) : qualified_name(name)
+{
+    std::string_view const local = detail::local_part_of(name);
+    if (local.size() != name.size()) {
+        prefixed_local_name = std::make_unique<std::string>(local);
+    }
+}
+
 std::string_view element::impl::prefix() const
 {
     if (prefixed_local_name == nullptr) {
@@ -172,10 +182,7 @@ element::impl::extras& element::impl::more_or_new()
 
 element::element() : impl_(std::make_unique<impl>()) {}
 
-element::element(std::string const& name) : impl_(std::make_unique<impl>())
-{
-    impl_->set_name(name);
-}
+element::element(std::string const& name) : impl_(std::make_unique<impl>(std::string_view(name))) {}
 
 element::element(std::string const& name, text const& contents) : element(name)
 {
@@ -295,6 +302,20 @@ void element::append_node(node const& child)
 void element::append_node(node&& child)
 {
     adopt_namespace(impl_->children.emplace_back(std::move(child)));
+}
+
+element& element::append_element(std::string_view name)
+{
+    auto contents = std::make_unique<impl>(name);
+    // What adopt would give the child once under this element, given now.
+    if (impl_->more != nullptr) {
+        contents->namespace_uri = resolve(*impl_, contents->prefix());
+    } else if (impl_->namespace_uri != nullptr && impl_->prefix() == contents->prefix()) {
+        // Nothing declared here: a child written with this element's prefix
+        // is in its namespace.
+        contents->namespace_uri = impl_->namespace_uri;
+    }
+    return *impl_->children.emplace_back(element(std::move(contents))).as_element();
 }
 
 attribute* element::find_attribute(std::string const& namespace_uri, std::string const& name)

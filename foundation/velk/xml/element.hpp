@@ -11,6 +11,7 @@
 
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velk::xml {
@@ -70,6 +71,11 @@ public:
     void append_node(cdata_section&& child);
     void append_node(node const& child);
     void append_node(node&& child);
+    // Appends a new child element of that name as the last child and gives it
+    // back to be filled in place, for a tree built from the root down. It
+    // takes at once the namespace its prefix names here, as append_node gives
+    // it; the name is kept as given, as by the constructor.
+    element& append_element(std::string_view name);
 
     // The attribute of that local name: with an empty namespace_uri one without
     // a prefix, else one whose resolved namespace is namespace_uri. Null when

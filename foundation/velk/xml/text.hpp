@@ -11,7 +11,9 @@ inline namespace v3 {
 // A text node. Its contents are kept unescaped and escaped when saved.
 class VELK_EXPORT text {
 public:
-    explicit text(std::string contents) : contents_(std::move(contents)) {}
+    // Copied or moved straight into place: a document is mostly short texts.
+    explicit text(std::string const& contents) : contents_(contents) {}
+    explicit text(std::string&& contents) : contents_(std::move(contents)) {}
     std::string const& get_contents() const { return contents_; }
     void set_contents(std::string const& contents) { contents_ = contents; }
 

@@ -8,6 +8,7 @@
 #include <cstddef>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace velk::xml {
@@ -40,8 +41,13 @@ struct element::impl {
     static void operator delete(void* block, std::size_t size) noexcept { block_memory::give(block, size); }
 
     impl() = default;
+    // An element of that name as written, with nothing else.
+    explicit impl(std::string_view name);
     impl(impl const& other);
     impl& operator=(impl const&) = delete;
+    // Out of line, so that the owner's pointer is small enough to be inlined
+    // and a moved-from element costs no call when it goes.
+    ~impl();
 
     // Sets both names from the name as written ("soap:Body").
     void set_name(std::string name);

@@ -157,34 +157,6 @@ bool is_valid_qualified_name(std::string_view name, std::string_view& prefix)
     return !at_start;
 }
 
-namespace {
-
-// Names are a few letters long: a plain loop finds the colon sooner than a
-// call into the C library's search.
-std::size_t colon_in(std::string_view qualified_name)
-{
-    for (std::size_t index = 0; index < qualified_name.size(); ++index) {
-        if (qualified_name[index] == ':') {
-            return index;
-        }
-    }
-    return std::string_view::npos;
-}
-
-}  // namespace
-
-std::string_view prefix_of(std::string_view qualified_name)
-{
-    auto const colon = colon_in(qualified_name);
-    return colon == std::string_view::npos ? std::string_view() : qualified_name.substr(0, colon);
-}
-
-std::string_view local_part_of(std::string_view qualified_name)
-{
-    auto const colon = colon_in(qualified_name);
-    return colon == std::string_view::npos ? qualified_name : qualified_name.substr(colon + 1);
-}
-
 }  // namespace detail
 }  // namespace v3
 }  // namespace velk::xml

@@ -26,7 +26,11 @@ TEST(decimal, writes_exactly_the_places_asked_rounding_half_away_from_zero)
                          row{decimal(7, 0), 0, "7"},              row{decimal(15, -1), 0, "2"},
                          row{decimal(5, 2), 2, "500.00"},         row{decimal(0, 0), 10, "0.0000000000"},
                          row{decimal(1, -10), 2, "0.00"},         row{decimal(123456789012345678LL, -4), 4, "12345678901234.5678"},
-                         row{decimal(-1, 0), 1, "-1.0"},          row{decimal(49, -2), 1, "0.5"}}) {
+                         row{decimal(-1, 0), 1, "-1.0"},          row{decimal(49, -2), 1, "0.5"},
+                         row{decimal(3, -5), 10, "0.0000300000"},  row{decimal(-3, -4), 4, "-0.0003"},
+                         row{decimal(-9223372036854775807LL - 1, -2), 3, "-92233720368547758.080"},
+                         row{decimal(12, 38), 2, "1200000000000000000000000000000000000000.00"},
+                         row{decimal(7, -41), 41, "0.00000000000000000000000000000000000000007"}}) {
         EXPECT_EQ(r.value.to_string(r.places, '.'), r.expected);
     }
     EXPECT_EQ(decimal(1250, -2).to_string(2, ','), "12,50");

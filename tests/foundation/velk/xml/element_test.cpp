@@ -7,6 +7,7 @@
 
 #include <iterator>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -207,6 +208,39 @@ TEST(element_namespaces, a_part_of_a_tree_carries_its_namespace_when_saved_alone
     EXPECT_EQ(saved_text(*parsed.get_root_element()->find_child("Body")),
               "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"
               R"(<s:Body xmlns:s="urn:s" xmlns:x="urn:x" x:a="1"><s:Fault/><d xmlns="urn:d"/></s:Body>)");
+}
+
+TEST(element_namespaces, a_child_made_in_place_has_the_namespace_it_would_take_when_appended)
+{
+    // Each child made in place beside the same child built apart and appended:
+    // the unprefixed one under a default namespace, one whose prefix the
+    // parent declares, one whose prefix is declared nowhere, and a child
+    // under a parent of no namespace at all.
+    stack report;
+    element made("root");
+    element appended("root");
+    for (element* parent : {&made, &appended}) {
+        ASSERT_TRUE(parent->append_namespace(namespace_id("", "urn:d"), report));
+        ASSERT_TRUE(parent->append_namespace(namespace_id("p", "urn:p"), report));
+    }
+    for (char const* name : {"plain", "p:prefixed", "q:undeclared"}) {
+        element& child = made.append_element(name);
+        child.append_element("leaf").append_node(text("1"));
+        element apart(name);
+        apart.append_node(element("leaf", text("1")));
+        appended.append_node(std::move(apart));
+        EXPECT_EQ(child.get_qualified_name(), name);
+        EXPECT_EQ(child.get_namespace_uri(), appended.find_child(child.get_name())->get_namespace_uri()) << name;
+        EXPECT_EQ(child.find_child("leaf")->get_namespace_uri(),
+                  appended.find_child(child.get_name())->find_child("leaf")->get_namespace_uri())
+            << name;
+    }
+    EXPECT_EQ(made.find_child("plain")->get_namespace_uri(), "urn:d");
+    EXPECT_EQ(made.find_child("prefixed")->get_namespace_uri(), "urn:p");
+
+    element bare("bare");
+    EXPECT_EQ(bare.append_element("child").get_namespace_uri(), "");
+    EXPECT_EQ(child_names(bare), std::vector<std::string>{"child"});
 }
 
 }  // namespace

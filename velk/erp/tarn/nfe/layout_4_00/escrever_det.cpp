@@ -6,7 +6,6 @@
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 #include <velk/xml/attribute.hpp>
 
-#include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
@@ -72,19 +71,19 @@ bool escrever_nItem(xml::element& det, std::uint16_t nItem, core::result::stack&
 
 }  // namespace
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::det const& det, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::det const& det, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = escrever_nItem(e, det.nItem, stack) && escrever(e, "prod", det.prod, stack) &&
                          escrever(e, "imposto", det.imposto, stack) &&
                          escrever(e, "impostoDevol", det.impostoDevol, stack) &&
                          txt(e, "infAdProd", det.infAdProd, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::prod const& prod, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::prod const& prod, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito =
         txt(e, "cProd", prod.cProd, stack) && txt(e, "cEAN", prod.cEAN, stack) && txt(e, "xProd", prod.xProd, stack) &&
         u(e, "NCM", prod.NCM, stack, 8) && escrever_NVE(e, prod.NVE, stack) && u(e, "CEST", prod.CEST, stack, 7) &&
@@ -100,22 +99,22 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::prod const& prod
         escrever(e, "detExport", prod.detExport, stack) && txt(e, "xPed", prod.xPed, stack) &&
         u(e, "nItemPed", prod.nItemPed, stack, 0) && txt(e, "nFCI", prod.nFCI, stack) &&
         escrever(e, "rastro", prod.rastro, stack) && escrever_especifico(e, prod.especifico, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::impostoDevol const& impostoDevol,
+bool escrever(xml::element& pai, std::string_view tag, grupo::impostoDevol const& impostoDevol,
               core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = d(e, "pDevol", impostoDevol.pDevol, stack, 2) && escrever(e, "IPI", impostoDevol.IPI, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::IPIDevol const& ipi, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::IPIDevol const& ipi, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = d(e, "vIPIDevol", ipi.vIPIDevol, stack, 2);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

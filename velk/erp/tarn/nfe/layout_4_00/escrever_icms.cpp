@@ -202,17 +202,16 @@ bool escrever_grupo(xml::element& e, grupo::ICMSSN900 const& r, core::result::st
 
 }  // namespace
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::ICMS const& icms, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::ICMS const& icms, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = core::visit(
         [&](auto const& registro) {
-            xml::element g(grupos_ICMS[icms.index()]);
-            bool const escrito_grupo = escrever_grupo(g, registro, stack);
-            return anexar(e, std::move(g), escrito_grupo);
+            xml::element& g = e.append_element(grupos_ICMS[icms.index()]);
+            return fechar(e, escrever_grupo(g, registro, stack));
         },
         icms);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

@@ -2,7 +2,6 @@
 
 #include <velk/erp/tarn/nfe/layout_4_00/escrever_valor.hpp>
 
-#include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
@@ -35,9 +34,9 @@ bool escrever_referencia(xml::element& nfref, grupo::refECF const& ref, core::re
 
 }  // namespace
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::ide const& ide, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::ide const& ide, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito =
         u(e, "cUF", ide.cUF, stack, 0) && u(e, "cNF", ide.cNF, stack, 8) && txt(e, "natOp", ide.natOp, stack) &&
         u(e, "indPag", ide.indPag, stack, 0) &&
@@ -51,42 +50,42 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::ide const& ide, 
         u(e, "indIntermed", ide.indIntermed, stack, 0) && u(e, "procEmi", ide.procEmi, stack, 0) &&
         txt(e, "verProc", ide.verProc, stack) && dh(e, "dhCont", ide.dhCont, stack) &&
         txt(e, "xJust", ide.xJust, stack) && escrever(e, "NFref", ide.NFref, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::NFref const& nfref, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::NFref const& nfref, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito =
         core::visit([&](auto const& ref) { return escrever_referencia(e, ref, stack); }, nfref);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::refNF const& ref, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::refNF const& ref, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = u(e, "cUF", ref.cUF, stack, 2) && u(e, "AAMM", ref.AAMM, stack, 4) &&
                          cnpj(e, ref.CNPJ, stack) && u(e, "mod", ref.mod, stack, 2) &&
                          u(e, "serie", ref.serie, stack, 0) && u(e, "nNF", ref.nNF, stack, 0);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::refNFP const& ref, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::refNFP const& ref, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = u(e, "cUF", ref.cUF, stack, 0) && u(e, "AAMM", ref.AAMM, stack, 4) &&
                          escrever_documento(e, ref.documento, stack) && txt(e, "IE", ref.IE, stack) &&
                          u(e, "mod", ref.mod, stack, 2) && u(e, "serie", ref.serie, stack, 0) &&
                          u(e, "nNF", ref.nNF, stack, 0);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::refECF const& ref, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::refECF const& ref, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = txt(e, "mod", ref.mod, stack) && u(e, "nECF", ref.nECF, stack, 3) &&
                          u(e, "nCOO", ref.nCOO, stack, 6);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

@@ -5,7 +5,6 @@
 
 #include <velk/erp/tarn/nfe/layout_4_00/escrever_valor.hpp>
 
-#include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
@@ -112,9 +111,8 @@ bool escrever_alternativa(xml::element& pai, char const* const (&nomes)[N], Vari
 {
     return core::visit(
         [&](auto const& registro) {
-            xml::element e(nomes[variante.index()]);
-            bool const escrito = escrever_grupo(e, registro, stack);
-            return anexar(pai, std::move(e), escrito);
+            xml::element& e = pai.append_element(nomes[variante.index()]);
+            return fechar(pai, escrever_grupo(e, registro, stack));
         },
         variante);
 }
@@ -141,9 +139,9 @@ bool escrever_tributo(xml::element& imposto, grupo::ISSQN const& issqn, grupo::i
 
 }  // namespace
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::imposto const& imposto, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::imposto const& imposto, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito =
         d(e, "vTotTrib", imposto.vTotTrib, stack, 2) &&
         core::visit([&](auto const& tributo) { return escrever_tributo(e, tributo, imposto, stack); },
@@ -151,12 +149,12 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::imposto const& i
         escrever(e, "PIS", imposto.PIS, stack) && escrever(e, "PISST", imposto.PISST, stack) &&
         escrever(e, "COFINS", imposto.COFINS, stack) && escrever(e, "COFINSST", imposto.COFINSST, stack) &&
         escrever(e, "ICMSUFDest", imposto.ICMSUFDest, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQN const& g, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::ISSQN const& g, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = d(e, "vBC", g.vBC, stack, 2) && d(e, "vAliq", g.vAliq, stack, 4) &&
                          d(e, "vISSQN", g.vISSQN, stack, 2) && u(e, "cMunFG", g.cMunFG, stack, 7) &&
                          txt(e, "cListServ", g.cListServ, stack) && d(e, "vDeducao", g.vDeducao, stack, 2) &&
@@ -165,67 +163,67 @@ bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQN const& g, 
                          u(e, "indISS", g.indISS, stack, 0) && txt(e, "cServico", g.cServico, stack) &&
                          u(e, "cMun", g.cMun, stack, 7) && u(e, "cPais", g.cPais, stack, 4) &&
                          txt(e, "nProcesso", g.nProcesso, stack) && u(e, "indIncentivo", g.indIncentivo, stack, 0);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::IPI const& ipi, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::IPI const& ipi, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = txt(e, "clEnq", ipi.clEnq, stack) &&
                          (!ipi.CNPJProd || u(e, "CNPJProd", *ipi.CNPJProd, stack, 14)) &&
                          txt(e, "cSelo", ipi.cSelo, stack) && u(e, "qSelo", ipi.qSelo, stack, 12) &&
                          u(e, "cEnq", ipi.cEnq, stack, 3) && escrever_alternativa(e, grupos_IPI, ipi.tributacao, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::II const& ii, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::II const& ii, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = d(e, "vBC", ii.vBC, stack, 2) && d(e, "vDespAdu", ii.vDespAdu, stack, 2) &&
                          d(e, "vII", ii.vII, stack, 2) && d(e, "vIOF", ii.vIOF, stack, 2);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::PIS const& pis, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::PIS const& pis, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = escrever_alternativa(e, grupos_PIS, pis, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::COFINS const& cofins, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::COFINS const& cofins, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = escrever_alternativa(e, grupos_COFINS, cofins, stack);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
 // vPIS of PISST is always written; vCOFINS of COFINSST only when held.
-bool escrever(xml::element& pai, std::string const& tag, grupo::PISST const& pisst, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::PISST const& pisst, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = escrever_calculo(e, pisst.calculo, stack) && d(e, "vPIS", pisst.vPIS, stack, 2);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::COFINSST const& cofinsst, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::COFINSST const& cofinsst, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = escrever_calculo(e, cofinsst.calculo, stack) && d(e, "vCOFINS", cofinsst.vCOFINS, stack, 2);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
 // pICMSInter has two places, every other rate of the group four.
-bool escrever(xml::element& pai, std::string const& tag, grupo::ICMSUFDest const& g, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, grupo::ICMSUFDest const& g, core::result::stack& stack)
 {
-    xml::element e(tag);
+    xml::element& e = pai.append_element(tag);
     bool const escrito = d(e, "vBCUFDest", g.vBCUFDest, stack, 2) && d(e, "vBCFCPUFDest", g.vBCFCPUFDest, stack, 2) &&
                          d(e, "pFCPUFDest", g.pFCPUFDest, stack, 4) && d(e, "pICMSUFDest", g.pICMSUFDest, stack, 4) &&
                          d(e, "pICMSInter", g.pICMSInter, stack, 2) &&
                          d(e, "pICMSInterPart", g.pICMSInterPart, stack, 4) &&
                          d(e, "vFCPUFDest", g.vFCPUFDest, stack, 2) && d(e, "vICMSUFDest", g.vICMSUFDest, stack, 2) &&
                          d(e, "vICMSUFRemet", g.vICMSUFRemet, stack, 2);
-    return anexar(pai, std::move(e), escrito);
+    return fechar(pai, escrito);
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::layout_4_00

@@ -13,12 +13,10 @@ namespace {
 
 bool escrever_infNFe(xml::element& nfe, layout_4_00 const& arvore, core::result::stack& stack)
 {
-    xml::element inf("infNFe");
-    if (!inf.append_attribute(xml::attribute("Id", arvore.Id), stack) ||
-        !inf.append_attribute(xml::attribute("versao", arvore.versao), stack)) {
-        return false;
-    }
+    xml::element& inf = nfe.append_element("infNFe");
     bool const escrito =
+        inf.append_attribute(xml::attribute("Id", arvore.Id), stack) &&
+        inf.append_attribute(xml::attribute("versao", arvore.versao), stack) &&
         escrever(inf, "ide", arvore.ide, stack) && escrever(inf, "emit", arvore.emit, stack) &&
         escrever(inf, "dest", arvore.dest, stack) && escrever(inf, "retirada", arvore.retirada, stack) &&
         escrever(inf, "entrega", arvore.entrega, stack) && escrever(inf, "autXML", arvore.autXML, stack) &&
@@ -28,7 +26,7 @@ bool escrever_infNFe(xml::element& nfe, layout_4_00 const& arvore, core::result:
         escrever(inf, "infAdic", arvore.infAdic, stack) && escrever(inf, "exporta", arvore.exporta, stack) &&
         escrever(inf, "compra", arvore.compra, stack) && escrever(inf, "cana", arvore.cana, stack) &&
         escrever(inf, "infRespTec", arvore.infRespTec, stack);
-    return anexar(nfe, std::move(inf), escrito);
+    return fechar(nfe, escrito);
 }
 
 }  // namespace

@@ -14,29 +14,40 @@ namespace {
 // The text of a value by its converter. When the converter refuses the value,
 // its failure is on the stack, and the tag goes on top of it.
 template <class Valor>
-bool texto_convertido(std::string const& tag, Valor const& valor, std::string& texto, core::result::stack& stack)
+bool texto_convertido(std::string_view tag, Valor const& valor, std::string& texto, core::result::stack& stack)
 {
     texto = core::make_string(valor, stack);
     if (stack.has_failed()) {
-        core::result::chain<sefaz_data::result_category::texto_elemento_invalido>(stack, tag);
+        core::result::chain<sefaz_data::result_category::texto_elemento_invalido>(stack, std::string(tag));
         return false;
+    }
+    return true;
+}
+
+// The element with its text, copied or moved into it as given.
+template <class Texto>
+bool escrever_texto(xml::element& pai, std::string_view tag, Texto&& valor)
+{
+    xml::element& elemento = pai.append_element(tag);
+    if (!valor.empty()) {
+        elemento.append_node(xml::text(std::forward<Texto>(valor)));
     }
     return true;
 }
 
 }  // namespace
 
-bool txt(xml::element& pai, std::string const& tag, std::string const& valor, core::result::stack&)
+bool txt(xml::element& pai, std::string_view tag, std::string const& valor, core::result::stack&)
 {
-    xml::element elemento(tag);
-    if (!valor.empty()) {
-        elemento.append_node(xml::text(valor));
-    }
-    pai.append_node(std::move(elemento));
-    return true;
+    return escrever_texto(pai, tag, valor);
 }
 
-bool u(xml::element& pai, std::string const& tag, std::uint64_t valor, core::result::stack& stack,
+bool txt(xml::element& pai, std::string_view tag, std::string&& valor, core::result::stack&)
+{
+    return escrever_texto(pai, tag, std::move(valor));
+}
+
+bool u(xml::element& pai, std::string_view tag, std::uint64_t valor, core::result::stack& stack,
        unsigned int largura)
 {
     std::string digitos;
@@ -46,25 +57,25 @@ bool u(xml::element& pai, std::string const& tag, std::uint64_t valor, core::res
     if (digitos.size() < largura) {
         digitos.insert(0, largura - digitos.size(), '0');
     }
-    return txt(pai, tag, digitos, stack);
+    return txt(pai, tag, std::move(digitos), stack);
 }
 
-bool d(xml::element& pai, std::string const& tag, core::decimal const& valor, core::result::stack& stack,
+bool d(xml::element& pai, std::string_view tag, core::decimal const& valor, core::result::stack& stack,
        unsigned int casas)
 {
     return txt(pai, tag, valor.to_string(casas, '.'), stack);
 }
 
-bool dh(xml::element& pai, std::string const& tag, core::datetime const& valor, core::result::stack& stack)
+bool dh(xml::element& pai, std::string_view tag, core::datetime const& valor, core::result::stack& stack)
 {
     std::string texto;
-    return texto_convertido(tag, valor, texto, stack) && txt(pai, tag, texto, stack);
+    return texto_convertido(tag, valor, texto, stack) && txt(pai, tag, std::move(texto), stack);
 }
 
-bool dt(xml::element& pai, std::string const& tag, core::date const& valor, core::result::stack& stack)
+bool dt(xml::element& pai, std::string_view tag, core::date const& valor, core::result::stack& stack)
 {
     std::string texto;
-    return texto_convertido(tag, valor, texto, stack) && txt(pai, tag, texto, stack);
+    return texto_convertido(tag, valor, texto, stack) && txt(pai, tag, std::move(texto), stack);
 }
 
 bool cnpj(xml::element& pai, std::uint64_t valor, core::result::stack& stack)

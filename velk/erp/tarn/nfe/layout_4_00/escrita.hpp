@@ -11,87 +11,88 @@
 #include <velk/erp/tarn/nfe/layout_4_00/layout_4_00.hpp>
 #include <velk/xml/element.hpp>
 
+#include <iterator>
 #include <string>
-#include <utility>
+#include <string_view>
 #include <vector>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
 
-bool escrever(xml::element& pai, std::string const& tag, grupo::ide const& ide, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::NFref const& nfref, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::refNF const& ref, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::refNFP const& ref, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::refECF const& ref, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::emit const& emit, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::enderEmit const& endereco, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::enderDest const& endereco, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::dest const& dest, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::retirada const& retirada, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::entrega const& entrega, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::ide const& ide, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::NFref const& nfref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::refNF const& ref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::refNFP const& ref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::refECF const& ref, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::emit const& emit, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::enderEmit const& endereco, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::enderDest const& endereco, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::dest const& dest, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::retirada const& retirada, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::entrega const& entrega, core::result::stack& stack);
 // An entry of autXML: the element with the document inside.
-bool escrever(xml::element& pai, std::string const& tag, grupo::cpf_cnpj_ou_estrangeiro const& documento,
+bool escrever(xml::element& pai, std::string_view tag, grupo::cpf_cnpj_ou_estrangeiro const& documento,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::det const& det, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::prod const& prod, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::DI const& di, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::adi const& adi, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::detExport const& detExport, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::exportInd const& exportInd, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::rastro const& rastro, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::veicProd const& veicProd, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::med const& med, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::arma const& arma, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::comb const& comb, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::CIDE const& cide, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::encerrante const& encerrante,
+bool escrever(xml::element& pai, std::string_view tag, grupo::det const& det, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::prod const& prod, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::DI const& di, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::adi const& adi, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::detExport const& detExport, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::exportInd const& exportInd, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::rastro const& rastro, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::veicProd const& veicProd, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::med const& med, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::arma const& arma, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::comb const& comb, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::CIDE const& cide, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::encerrante const& encerrante,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::impostoDevol const& impostoDevol,
+bool escrever(xml::element& pai, std::string_view tag, grupo::impostoDevol const& impostoDevol,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::IPIDevol const& ipi, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::imposto const& imposto, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::IPIDevol const& ipi, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::imposto const& imposto, core::result::stack& stack);
 // The element ICMS with the group of the alternative it holds.
-bool escrever(xml::element& pai, std::string const& tag, grupo::ICMS const& icms, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQN const& issqn, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::IPI const& ipi, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::II const& ii, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::PIS const& pis, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::PISST const& pisst, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::COFINS const& cofins, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::COFINSST const& cofinsst, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::ICMSUFDest const& icms_uf_dest,
+bool escrever(xml::element& pai, std::string_view tag, grupo::ICMS const& icms, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::ISSQN const& issqn, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::IPI const& ipi, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::II const& ii, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::PIS const& pis, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::PISST const& pisst, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::COFINS const& cofins, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::COFINSST const& cofinsst, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::ICMSUFDest const& icms_uf_dest,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::total const& total, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::ICMSTot const& icms_tot, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::ISSQNtot const& issqn_tot, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::retTrib const& ret_trib, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::transp const& transp, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::transporta const& transporta,
+bool escrever(xml::element& pai, std::string_view tag, grupo::total const& total, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::ICMSTot const& icms_tot, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::ISSQNtot const& issqn_tot, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::retTrib const& ret_trib, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::transp const& transp, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::transporta const& transporta,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::retTransp const& ret_transp,
+bool escrever(xml::element& pai, std::string_view tag, grupo::retTransp const& ret_transp,
               core::result::stack& stack);
 // veicTransp and each reboque.
-bool escrever(xml::element& pai, std::string const& tag, grupo::veicTransp const& veiculo, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::vol const& vol, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::lacres const& lacres, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::cobr const& cobr, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::fat const& fat, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::dup const& dup, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::pag const& pag, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::detPag const& det_pag, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::card const& card, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::infIntermed const& infIntermed,
+bool escrever(xml::element& pai, std::string_view tag, grupo::veicTransp const& veiculo, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::vol const& vol, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::lacres const& lacres, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::cobr const& cobr, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::fat const& fat, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::dup const& dup, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::pag const& pag, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::detPag const& det_pag, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::card const& card, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::infIntermed const& infIntermed,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::infAdic const& infAdic, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::infAdic const& infAdic, core::result::stack& stack);
 // An entry of obsCont or obsFisco.
-bool escrever(xml::element& pai, std::string const& tag, grupo::observacao const& observacao,
+bool escrever(xml::element& pai, std::string_view tag, grupo::observacao const& observacao,
               core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::procRef const& procRef, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::exporta const& exporta, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::compra const& compra, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::cana const& cana, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::forDia const& forDia, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::deduc const& deduc, core::result::stack& stack);
-bool escrever(xml::element& pai, std::string const& tag, grupo::infRespTec const& infRespTec,
+bool escrever(xml::element& pai, std::string_view tag, grupo::procRef const& procRef, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::exporta const& exporta, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::compra const& compra, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::cana const& cana, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::forDia const& forDia, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::deduc const& deduc, core::result::stack& stack);
+bool escrever(xml::element& pai, std::string_view tag, grupo::infRespTec const& infRespTec,
               core::result::stack& stack);
 
 // The document of a party, written in its place among the group's tags.
@@ -100,7 +101,7 @@ bool escrever_documento(xml::element& pai, grupo::cpf_cnpj_ou_estrangeiro const&
 
 // An optional group is written when it holds a value.
 template <class Registro>
-bool escrever(xml::element& pai, std::string const& tag, core::optional<Registro> const& registro,
+bool escrever(xml::element& pai, std::string_view tag, core::optional<Registro> const& registro,
               core::result::stack& stack)
 {
     return !registro || escrever(pai, tag, *registro, stack);
@@ -108,7 +109,7 @@ bool escrever(xml::element& pai, std::string const& tag, core::optional<Registro
 
 // A repeated group is written once per entry, in order.
 template <class Registro>
-bool escrever(xml::element& pai, std::string const& tag, std::vector<Registro> const& lista, core::result::stack& stack)
+bool escrever(xml::element& pai, std::string_view tag, std::vector<Registro> const& lista, core::result::stack& stack)
 {
     for (Registro const& registro : lista) {
         if (!escrever(pai, tag, registro, stack)) {
@@ -118,11 +119,14 @@ bool escrever(xml::element& pai, std::string const& tag, std::vector<Registro> c
     return true;
 }
 
-// Appends a group element to its parent once all of it was written.
-inline bool anexar(xml::element& pai, xml::element&& elemento, bool escrito)
+// A group is written in place, as the last child of its parent
+// (pai.append_element); one that could not be written whole is taken out
+// again, so that the parent is left as it was.
+inline bool fechar(xml::element& pai, bool escrito)
 {
-    if (escrito) {
-        pai.append_node(std::move(elemento));
+    if (!escrito) {
+        xml::mutable_node_range filhos = pai.get_node_range();
+        filhos.erase(std::prev(filhos.end()));
     }
     return escrito;
 }
