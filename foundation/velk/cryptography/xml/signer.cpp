@@ -292,13 +292,21 @@ std::vector<element*> digest_values(element& signed_info)
 
 // The whole signature, reporting on a stack that starts empty. Nothing is
 // written into the caller's tree before everything has been computed.
-bool sign_in_place(x509_certificate const& certificate, evp_private_key const& key, element& elemento_pai,
-                   core::result::stack& stack)
+//
+// `kept_text` is the certificate's Base64 text as the certificate keeps it;
+// when it is empty the DER form is asked for here, to be reported or encoded.
+bool sign_in_place(x509_certificate const& certificate, std::string const& kept_text, evp_private_key const& key,
+                   element& elemento_pai, core::result::stack& stack)
 {
-    core::byte_array const certificate_der = certificate.to_byte_array(encoding::der, stack);
-    if (stack.has_failed()) {
-        return false;
+    std::string encoded_text;
+    if (kept_text.empty()) {
+        core::byte_array const certificate_der = certificate.to_byte_array(encoding::der, stack);
+        if (stack.has_failed()) {
+            return false;
+        }
+        encoded_text = core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
     }
+    std::string const& certificate_text = kept_text.empty() ? encoded_text : kept_text;
     if (key.empty()) {
         core::result::fresh<category::invalid_private_key>(stack, "chave vazia");
         return false;
@@ -382,8 +390,6 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
     signature_value->set_contents(core::binary_encoder::encode(core::binary_encoding::base64, signature_bytes));
     if (element* key_info = signature->find_child("KeyInfo")) {
         if (element* x509_data = key_info->find_child("X509Data")) {
-            std::string const certificate_text =
-                core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
             if (element* x509_certificate = x509_data->find_child("X509Certificate")) {
                 x509_certificate->set_contents(certificate_text);
             } else {
@@ -405,7 +411,7 @@ bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stac
     // A stack of its own, so that items the caller left on its stack are not
     // taken for failures of this call.
     core::result::stack local;
-    if (!sign_in_place(certificate_, key_, elemento_pai, local)) {
+    if (!sign_in_place(certificate_, certificate_.get_der_base64(), key_, elemento_pai, local)) {
         stack = std::move(local);
         return false;
     }
