@@ -11,7 +11,8 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::detail {
 
 // Wanted paths split into their names once: a reader that looks the same
 // paths up in every message keeps one of these, and each walk then costs the
-// walk alone. Paths are relative to the root walked ("infNFe/ide/tpAmb":
+// walk alone, where each element is compared with the distinct names its depth
+// can have. Paths are relative to the root walked ("infNFe/ide/tpAmb":
 // first name that of a direct child), compared by local name.
 class path_set {
 public:
@@ -28,10 +29,19 @@ public:
     // neither changed nor destroyed.
     std::vector<xml::element const*> find_in(xml::element const& raiz) const;
 
+    // The paths as a tree of names: a step is a name under the step before,
+    // shared by all the paths that begin alike. Step 0 is the root walked.
+    struct step {
+        std::string_view name;  // a view into paths_
+        std::size_t parent;
+        std::vector<std::size_t> next;
+        // The paths that end here, by index.
+        std::vector<std::size_t> ends;
+    };
+
 private:
     std::vector<std::string> paths_;
-    // The names of each path; views into paths_.
-    std::vector<std::vector<std::string_view>> segments_;
+    std::vector<step> steps_;
 };
 
 }  // namespace velk::erp::inline v4::tarn::nfe::sefaz_data::detail
