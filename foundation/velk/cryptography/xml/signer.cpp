@@ -36,21 +36,20 @@ std::vector<element const*> children(element const& parent, char const* name)
     return found;
 }
 
-// The value of an attribute without namespace; empty when absent.
-core::optional<std::string> attribute_value(element const& value, char const* name)
+// The value of an attribute without namespace, in the tree; null when absent.
+std::string const* attribute_value(element const& value, char const* name)
 {
     velk::xml::attribute const* found = value.find_attribute("", name);
-    return found == nullptr ? core::optional<std::string>() : core::optional<std::string>(found->get_value());
+    return found == nullptr ? nullptr : &found->get_value();
 }
 
 // The Algorithm of a method element: code 12 when the element or the
 // attribute is missing.
-core::optional<std::string> algorithm_of(element const& parent, char const* name, core::result::stack& stack)
+std::string const* algorithm_of(element const& parent, char const* name, core::result::stack& stack)
 {
     element const* method = parent.find_child(name);
-    core::optional<std::string> algorithm = method == nullptr ? core::optional<std::string>()
-                                                              : attribute_value(*method, "Algorithm");
-    if (!algorithm.has_value()) {
+    std::string const* algorithm = method == nullptr ? nullptr : attribute_value(*method, "Algorithm");
+    if (algorithm == nullptr) {
         core::result::fresh<category::incomplete_template>(stack, name);
     }
     return algorithm;
@@ -72,8 +71,8 @@ bool read_transforms(element const& reference, reference_work& work, core::resul
         return true;
     }
     for (element const* transform : children(*transforms, "Transform")) {
-        core::optional<std::string> const algorithm = attribute_value(*transform, "Algorithm");
-        if (!algorithm.has_value()) {
+        std::string const* const algorithm = attribute_value(*transform, "Algorithm");
+        if (algorithm == nullptr) {
             core::result::fresh<category::incomplete_template>(stack, "Transform");
             return false;
         }
@@ -91,12 +90,13 @@ bool read_transforms(element const& reference, reference_work& work, core::resul
 
 bool read_reference(element const& reference, reference_work& work, core::result::stack& stack)
 {
-    work.uri = attribute_value(reference, "URI").value_or("");
+    std::string const* const uri = attribute_value(reference, "URI");
+    work.uri = uri == nullptr ? std::string() : *uri;
     if (!read_transforms(reference, work, stack)) {
         return false;
     }
-    core::optional<std::string> const digest_method = algorithm_of(reference, "DigestMethod", stack);
-    if (!digest_method.has_value()) {
+    std::string const* const digest_method = algorithm_of(reference, "DigestMethod", stack);
+    if (digest_method == nullptr) {
         return false;
     }
     auto const algorithm = detail::digest_from_uri(*digest_method);
@@ -331,9 +331,9 @@ bool sign_in_place(x509_certificate const& certificate, std::string const& kept_
         return false;
     }
 
-    core::optional<std::string> const canonicalization = algorithm_of(*signed_info, "CanonicalizationMethod", stack);
-    core::optional<std::string> const signature_method =
-        canonicalization.has_value() ? algorithm_of(*signed_info, "SignatureMethod", stack) : core::optional<std::string>();
+    std::string const* const canonicalization = algorithm_of(*signed_info, "CanonicalizationMethod", stack);
+    std::string const* const signature_method =
+        canonicalization != nullptr ? algorithm_of(*signed_info, "SignatureMethod", stack) : nullptr;
     if (stack.has_failed()) {
         return false;
     }
