@@ -1,5 +1,6 @@
 #include <velk/cryptography/x509_certificate.hpp>
 
+#include <velk/core/binary_encoder.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/cryptography/cryptography_result_category.hpp>
 #include <velk/cryptography/detail/openssl.hpp>
@@ -103,6 +104,20 @@ core::byte_array const& x509_certificate::impl::der() const
         ERR_pop_to_mark();
     });
     return der_;
+}
+
+std::string const& x509_certificate::impl::der_base64() const
+{
+    std::call_once(der_base64_once_, [this] {
+        der_base64_ = core::binary_encoder::encode(core::binary_encoding::base64, der());
+    });
+    return der_base64_;
+}
+
+std::string const& x509_certificate::get_der_base64() const
+{
+    static std::string const none;
+    return impl_ == nullptr ? none : impl_->der_base64();
 }
 
 core::byte_array x509_certificate::to_byte_array(encoding format, core::result::stack& stack) const

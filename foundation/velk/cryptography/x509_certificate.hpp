@@ -14,6 +14,10 @@ inline namespace v3 {
 
 class evp_private_key;
 
+namespace xml {
+class signer;
+}
+
 // An X.509 certificate, immutable. Copies share it.
 class VELK_EXPORT x509_certificate {
 public:
@@ -45,7 +49,14 @@ public:
 private:
     friend class pkcs12;
     friend class evp_private_key;
+    friend class xml::signer;
     struct impl;
+
+    // The Base64 text of the DER form, as every signature carries it: encoded
+    // once and kept with the certificate. Empty for an empty certificate or one
+    // whose DER form could not be made.
+    std::string const& get_der_base64() const;
+
     std::shared_ptr<impl const> impl_;
 };
 

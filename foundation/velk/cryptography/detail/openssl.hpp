@@ -64,12 +64,16 @@ struct x509_certificate::impl {
     // could not be encoded: the OpenSSL errors of that attempt are dropped,
     // and whoever reports the failure encodes anew.
     core::byte_array const& der() const;
+    // The Base64 text of der(), kept the same way; empty when der() is.
+    std::string const& der_base64() const;
 
     detail::openssl_ptr<X509> handle;
 
 private:
     mutable std::once_flag der_once_;
     mutable core::byte_array der_;
+    mutable std::once_flag der_base64_once_;
+    mutable std::string der_base64_;
 };
 
 struct evp_private_key::impl {

@@ -36,21 +36,20 @@ std::vector<element const*> children(element const& parent, char const* name)
     return found;
 }
 
-// The value of an attribute without namespace; empty when absent.
-core::optional<std::string> attribute_value(element const& value, char const* name)
+// The value of an attribute without namespace, in the tree; null when absent.
+std::string const* attribute_value(element const& value, char const* name)
 {
     velk::xml::attribute const* found = value.find_attribute("", name);
-    return found == nullptr ? core::optional<std::string>() : core::optional<std::string>(found->get_value());
+    return found == nullptr ? nullptr : &found->get_value();
 }
 
 // The Algorithm of a method element: code 12 when the element or the
 // attribute is missing.
-core::optional<std::string> algorithm_of(element const& parent, char const* name, core::result::stack& stack)
+std::string const* algorithm_of(element const& parent, char const* name, core::result::stack& stack)
 {
     element const* method = parent.find_child(name);
-    core::optional<std::string> algorithm = method == nullptr ? core::optional<std::string>()
-                                                              : attribute_value(*method, "Algorithm");
-    if (!algorithm.has_value()) {
+    std::string const* algorithm = method == nullptr ? nullptr : attribute_value(*method, "Algorithm");
+    if (algorithm == nullptr) {
         core::result::fresh<category::incomplete_template>(stack, name);
     }
     return algorithm;
@@ -72,8 +71,8 @@ bool read_transforms(element const& reference, reference_work& work, core::resul
         return true;
     }
     for (element const* transform : children(*transforms, "Transform")) {
-        core::optional<std::string> const algorithm = attribute_value(*transform, "Algorithm");
-        if (!algorithm.has_value()) {
+        std::string const* const algorithm = attribute_value(*transform, "Algorithm");
+        if (algorithm == nullptr) {
             core::result::fresh<category::incomplete_template>(stack, "Transform");
             return false;
         }
@@ -91,12 +90,13 @@ bool read_transforms(element const& reference, reference_work& work, core::resul
 
 bool read_reference(element const& reference, reference_work& work, core::result::stack& stack)
 {
-    work.uri = attribute_value(reference, "URI").value_or("");
+    std::string const* const uri = attribute_value(reference, "URI");
+    work.uri = uri == nullptr ? std::string() : *uri;
     if (!read_transforms(reference, work, stack)) {
         return false;
     }
-    core::optional<std::string> const digest_method = algorithm_of(reference, "DigestMethod", stack);
-    if (!digest_method.has_value()) {
+    std::string const* const digest_method = algorithm_of(reference, "DigestMethod", stack);
+    if (digest_method == nullptr) {
         return false;
     }
     auto const algorithm = detail::digest_from_uri(*digest_method);
@@ -292,13 +292,21 @@ std::vector<element*> digest_values(element& signed_info)
 
 // The whole signature, reporting on a stack that starts empty. Nothing is
 // written into the caller's tree before everything has been computed.
-bool sign_in_place(x509_certificate const& certificate, evp_private_key const& key, element& elemento_pai,
-                   core::result::stack& stack)
+//
+// `kept_text` is the certificate's Base64 text as the certificate keeps it;
+// when it is empty the DER form is asked for here, to be reported or encoded.
+bool sign_in_place(x509_certificate const& certificate, std::string const& kept_text, evp_private_key const& key,
+                   element& elemento_pai, core::result::stack& stack)
 {
-    core::byte_array const certificate_der = certificate.to_byte_array(encoding::der, stack);
-    if (stack.has_failed()) {
-        return false;
+    std::string encoded_text;
+    if (kept_text.empty()) {
+        core::byte_array const certificate_der = certificate.to_byte_array(encoding::der, stack);
+        if (stack.has_failed()) {
+            return false;
+        }
+        encoded_text = core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
     }
+    std::string const& certificate_text = kept_text.empty() ? encoded_text : kept_text;
     if (key.empty()) {
         core::result::fresh<category::invalid_private_key>(stack, "chave vazia");
         return false;
@@ -323,9 +331,9 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
         return false;
     }
 
-    core::optional<std::string> const canonicalization = algorithm_of(*signed_info, "CanonicalizationMethod", stack);
-    core::optional<std::string> const signature_method =
-        canonicalization.has_value() ? algorithm_of(*signed_info, "SignatureMethod", stack) : core::optional<std::string>();
+    std::string const* const canonicalization = algorithm_of(*signed_info, "CanonicalizationMethod", stack);
+    std::string const* const signature_method =
+        canonicalization != nullptr ? algorithm_of(*signed_info, "SignatureMethod", stack) : nullptr;
     if (stack.has_failed()) {
         return false;
     }
@@ -382,8 +390,6 @@ bool sign_in_place(x509_certificate const& certificate, evp_private_key const& k
     signature_value->set_contents(core::binary_encoder::encode(core::binary_encoding::base64, signature_bytes));
     if (element* key_info = signature->find_child("KeyInfo")) {
         if (element* x509_data = key_info->find_child("X509Data")) {
-            std::string const certificate_text =
-                core::binary_encoder::encode(core::binary_encoding::base64, certificate_der);
             if (element* x509_certificate = x509_data->find_child("X509Certificate")) {
                 x509_certificate->set_contents(certificate_text);
             } else {
@@ -405,7 +411,7 @@ bool signer::execute(velk::xml::element& elemento_pai, core::result::stack& stac
     // A stack of its own, so that items the caller left on its stack are not
     // taken for failures of this call.
     core::result::stack local;
-    if (!sign_in_place(certificate_, key_, elemento_pai, local)) {
+    if (!sign_in_place(certificate_, certificate_.get_der_base64(), key_, elemento_pai, local)) {
         stack = std::move(local);
         return false;
     }

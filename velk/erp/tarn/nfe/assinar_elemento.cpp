@@ -1,5 +1,6 @@
 #include <velk/erp/tarn/nfe/assinar_elemento.hpp>
 
+#include <velk/core/optional.hpp>
 #include <velk/cryptography/xml/signature_template.hpp>
 #include <velk/cryptography/xml/signer.hpp>
 
@@ -31,16 +32,56 @@ signature::signature_template make_template(std::string const& uri)
     return signature::signature_template(info, key, {});
 }
 
+// The template differs from one document to the next only by the URI of its
+// reference: it is built once, with a stand-in URI, and copied for each
+// signature. Null if it could not be built; each signature then builds its own
+// and reports why.
+xml::element const* shared_template()
+{
+    static core::optional<xml::element> const model = []() -> core::optional<xml::element> {
+        core::result::stack stack;
+        xml::element built = make_template("#").get_element_template(stack);
+        if (stack.has_failed()) {
+            return {};
+        }
+        return built;
+    }();
+    return model.has_value() ? &*model : nullptr;
+}
+
+// The shared template with the reference's URI, or null when there is none
+// to copy.
+core::optional<xml::element> template_for(std::string const& uri)
+{
+    xml::element const* const model = shared_template();
+    if (model == nullptr || uri.empty()) {
+        return {};
+    }
+    xml::element copy = *model;
+    xml::element* const signed_info = copy.find_child("SignedInfo");
+    xml::element* const reference = signed_info == nullptr ? nullptr : signed_info->find_child("Reference");
+    xml::attribute* const uri_attribute = reference == nullptr ? nullptr : reference->find_attribute("", "URI");
+    if (uri_attribute == nullptr) {
+        return {};
+    }
+    uri_attribute->set_value(uri);
+    return copy;
+}
+
 }  // namespace
 
 void assinar_elemento(xml::element& elemento_pai, std::string const& uri,
                       cryptography::pkcs12 const& certificado, core::result::stack& stack)
 {
-    xml::element element_template = make_template(uri).get_element_template(stack);
-    if (stack.has_failed()) {
-        return;
+    if (core::optional<xml::element> copied = template_for(uri)) {
+        elemento_pai.append_node(std::move(*copied));
+    } else {
+        xml::element element_template = make_template(uri).get_element_template(stack);
+        if (stack.has_failed()) {
+            return;
+        }
+        elemento_pai.append_node(std::move(element_template));
     }
-    elemento_pai.append_node(std::move(element_template));
     signature::signer const signer(certificado.get_certificate(), certificado.get_evp_private_key());
     signer.execute(elemento_pai, stack);
 }

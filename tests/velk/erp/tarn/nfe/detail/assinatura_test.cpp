@@ -2,6 +2,7 @@
 
 #include <support/test_certificates.hpp>
 #include <support/xml_text.hpp>
+#include <velk/core/binary_encoder.hpp>
 #include <velk/core/converter_result_category.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
@@ -103,6 +104,49 @@ TEST(assinatura, signs_by_the_profile_of_the_layouts_transforms_in_their_order)
                               "Transform http://www.w3.org/TR/2001/REC-xml-c14n-20010315",
                               "DigestMethod http://www.w3.org/2000/09/xmldsig#sha1",
                           }));
+}
+
+// Each signature starts from one template kept for all: the URI of one
+// document must not reach another, and the rest of the Signature is the same
+// for both but for the values computed.
+TEST(assinatura, each_document_gets_its_own_reference_and_the_certificate_as_it_is)
+{
+    auto const signed_root = [](std::string const& id) {
+        velk::xml::element root = parse_element("<evento><infEvento Id=\"" + id + "\">x</infEvento></evento>");
+        stack s;
+        velk::erp::tarn::nfe::detail::assinar_raiz(
+            root,
+            [&id](std::string& value, stack&) {
+                value = id;
+                return true;
+            },
+            taxpayer_pkcs12(), s);
+        EXPECT_FALSE(s.has_failed()) << s.to_string();
+        return root;
+    };
+    velk::xml::element first = signed_root("ID1");
+    velk::xml::element const second = signed_root("ID22");
+    velk::xml::element third = signed_root("ID1");
+
+    auto const reference_uri = [](velk::xml::element const& root) {
+        velk::xml::element const* reference = root.find_child("Signature")->find_child("SignedInfo")->find_child("Reference");
+        return reference->find_attribute("", "URI")->get_value();
+    };
+    EXPECT_EQ(reference_uri(first), "#ID1");
+    EXPECT_EQ(reference_uri(second), "#ID22");
+    EXPECT_EQ(velk::test::saved_text(first), velk::test::saved_text(third));
+
+    auto const certificate_text = [](velk::xml::element const& root) {
+        velk::xml::element const* data = root.find_child("Signature")->find_child("KeyInfo")->find_child("X509Data");
+        return data->find_child("X509Certificate")->get_contents();
+    };
+    stack s;
+    velk::core::byte_array const der =
+        taxpayer_pkcs12().get_certificate().to_byte_array(velk::cryptography::encoding::der, s);
+    ASSERT_FALSE(s.has_failed()) << s.to_string();
+    std::string const expected = velk::core::binary_encoder::encode(velk::core::binary_encoding::base64, der);
+    EXPECT_EQ(certificate_text(first), expected);
+    EXPECT_EQ(certificate_text(second), expected);
 }
 
 TEST(assinatura, identifier_pieces_have_their_widths)

@@ -26,6 +26,14 @@ TEST(leitura, paths_take_their_first_occurrence_and_only_wanted_paths_are_found)
     EXPECT_EQ(sefaz_data::lookup(found, "x/y"), nullptr) << "a path not asked for is never in the map";
     EXPECT_EQ(sefaz_data::lookup(found, "z"), nullptr);
 
+    // A path that ends where another goes on: both found, the longer one
+    // under a later element when the first has none.
+    auto const nested = sefaz_data::find_elements_by_path(*document.get_root_element(), {"a", "a/c", "x", "x/y"});
+    ASSERT_EQ(nested.size(), 4u);
+    EXPECT_EQ(sefaz_data::lookup(nested, "a")->get_prefix(), "p");
+    EXPECT_EQ(sefaz_data::lookup(nested, "a/c")->get_contents(), "4");
+    EXPECT_EQ(sefaz_data::lookup(nested, "x/y")->get_contents(), "6");
+
     auto const& root = *document.get_root_element();
     ASSERT_NE(sefaz_data::find_child_element(root, "a"), nullptr);
     EXPECT_EQ(sefaz_data::find_child_element(root, "a")->get_prefix(), "p");

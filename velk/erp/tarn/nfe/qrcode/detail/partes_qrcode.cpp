@@ -6,7 +6,6 @@
 #include <velk/erp/tarn/detail/utf8.hpp>
 
 #include <algorithm>
-#include <cctype>
 
 namespace velk::erp::inline v4::tarn::nfe::detail {
 
@@ -14,6 +13,13 @@ namespace {
 
 constexpr std::size_t digest_hexadecimal_length = 56;  // 28 Base64 characters
 constexpr std::size_t hash_hexadecimal_length = 40;    // 20 bytes of SHA-1
+
+// A byte that is a whole character from the space to U+007F.
+bool ascii_visivel(char byte)
+{
+    auto const valor = static_cast<unsigned char>(byte);
+    return valor >= 0x20 && valor < 0x80;
+}
 
 }  // namespace
 
@@ -28,6 +34,12 @@ bool cabe_em_cdata(std::string const& texto)
         return false;
     }
     for (std::size_t posicao = 0; posicao < texto.size();) {
+        // An address is mostly printable ASCII: each such byte is its own
+        // character, and one that fits.
+        if (ascii_visivel(texto[posicao])) {
+            ++posicao;
+            continue;
+        }
         char32_t ponto = 0;
         if (!tarn::detail::ler_utf8(texto, posicao, ponto) || ponto < 0x20 || ponto == 0xFFFE || ponto == 0xFFFF) {
             return false;
@@ -65,6 +77,10 @@ bool url_chave_do_leiaute(std::string const& texto)
 {
     std::size_t caracteres = 0;
     for (std::size_t posicao = 0; posicao < texto.size(); ++caracteres) {
+        if (ascii_visivel(texto[posicao])) {
+            ++posicao;
+            continue;
+        }
         char32_t ponto = 0;
         if (!tarn::detail::ler_utf8(texto, posicao, ponto) || ponto < 0x20 || ponto > 0xFF) {
             return false;
@@ -129,8 +145,11 @@ bool hash_qrcode(std::string const& texto, std::string const& csc, std::string& 
         core::result::fresh<processo_gerar_qrcode_result_category::hash_invalido>(stack, hash);
         return false;
     }
+    // Hexadecimal digits only: the letters a to f, upper-cased.
     for (char& digit : hash) {
-        digit = static_cast<char>(std::toupper(static_cast<unsigned char>(digit)));
+        if (digit >= 'a' && digit <= 'f') {
+            digit = static_cast<char>(digit - 'a' + 'A');
+        }
     }
     return true;
 }

@@ -26,8 +26,9 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
                                     std::string const& digest, std::string const& id_token, std::string const& csc,
                                     core::result::stack& stack)
 {
+    chave_acesso const chave_documento = documento.get_chave_acesso();
     std::string chave;
-    if (!texto_do_campo(documento.get_chave_acesso(), chave, versao_url, "chave_acesso", stack)) {
+    if (!texto_do_campo(chave_documento, chave, versao_url, "chave_acesso", stack)) {
         return {};
     }
     std::string qrcode = chave + "|2";
@@ -41,7 +42,7 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
 
     // Offline, the consumer checks the note against what the QR code itself
     // says, as the authority has not seen it yet.
-    if (documento.get_chave_acesso().get_tipo_emissao() == fiscal::tipo_emissao::contingencia_offline_nfce) {
+    if (chave_documento.get_tipo_emissao() == fiscal::tipo_emissao::contingencia_offline_nfce) {
         std::string emissao;
         if (!texto_do_campo(documento.get_data_hora_emissao(), emissao, versao_url, "dh_emissao", stack)) {
             return {};

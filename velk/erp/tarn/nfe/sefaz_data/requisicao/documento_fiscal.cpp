@@ -5,6 +5,7 @@
 #include <velk/cryptography/cryptographic_hash.hpp>
 #include <velk/cryptography/xml/canonical_digest.hpp>
 #include <velk/erp/tarn/nfe/detail/assinatura.hpp>
+#include <velk/erp/tarn/nfe/sefaz_data/detail/path_set.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/leitura.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/campo.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/documento_fiscal_dados.hpp>
@@ -16,10 +17,16 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
 
 namespace {
 
-using found_elements = std::unordered_map<std::string, xml::element const*>;
+// The paths read below, relative to NFe, by their index in wanted_paths.
+// Failures name them with "NFe/" in front.
+enum path : std::size_t {
+    inf_nfe,
+    tp_amb, mod, c_uf, dh_emi, serie, c_nf, n_nf,
+    dest_email, dest_cpf, dest_cnpj, dest_id_estrangeiro,
+    v_nf, v_icms,
+    qr_code, url_chave,
+};
 
-// The paths read below, relative to NFe. Failures name them with "NFe/" in
-// front.
 std::vector<std::string> const wanted_paths = {
     "infNFe",
     "infNFe/ide/tpAmb", "infNFe/ide/mod", "infNFe/ide/cUF", "infNFe/ide/dhEmi",
@@ -29,23 +36,37 @@ std::vector<std::string> const wanted_paths = {
     "infNFeSupl/qrCode", "infNFeSupl/urlChave",
 };
 
+// The paths split once: every document read walks the same ones.
+sefaz_data::detail::path_set const wanted(wanted_paths);
+
+// The names failures give, made once.
+std::vector<std::string> const failure_names = [] {
+    std::vector<std::string> names;
+    for (std::string const& value : wanted_paths) {
+        names.push_back("NFe/" + value);
+    }
+    return names;
+}();
+
+using found_elements = std::vector<xml::element const*>;
+
 // The destination is identified by the first of these that is present.
-char const* const destination_identifiers[] = {"infNFe/dest/CPF", "infNFe/dest/CNPJ", "infNFe/dest/idEstrangeiro"};
+path const destination_identifiers[] = {dest_cpf, dest_cnpj, dest_id_estrangeiro};
 
 constexpr std::size_t id_length = 47;  // "NFe" and the 44 digits of the key
 constexpr char digest_path[] = "Signature/SignedInfo/Reference/DigestValue";
 
 template <class T>
-bool read_required_path(found_elements const& found, std::string const& path, T& value, core::result::stack& stack)
+bool read_required_path(found_elements const& found, path index, T& value, core::result::stack& stack)
 {
-    return read_required(lookup(found, path), "NFe/" + path, value, stack);
+    return read_required(found[index], failure_names[index], value, stack);
 }
 
 template <class T>
-bool read_optional_path(found_elements const& found, std::string const& path, core::optional<T>& value,
+bool read_optional_path(found_elements const& found, path index, core::optional<T>& value,
                         core::result::stack& stack)
 {
-    return read_optional(lookup(found, path), "NFe/" + path, value, stack);
+    return read_optional(found[index], failure_names[index], value, stack);
 }
 
 // The attributes of infNFe: the key behind the three letters of the Id, and
@@ -85,26 +106,26 @@ bool read_identification(xml::element const& inf_nfe, chave_acesso& chave, versa
 template <class Fields>
 bool read_fields(found_elements const& found, Fields& campos, core::result::stack& stack)
 {
-    if (!read_required_path(found, "infNFe/ide/tpAmb", campos.tipo_ambiente, stack) ||
-        !read_required_path(found, "infNFe/ide/mod", campos.modelo_documento, stack) ||
-        !read_required_path(found, "infNFe/ide/cUF", campos.uf, stack) ||
-        !read_optional_path(found, "infNFeSupl/qrCode", campos.qrcode_value, stack) ||
-        !read_optional_path(found, "infNFeSupl/urlChave", campos.url_chave, stack) ||
-        !read_required_path(found, "infNFe/ide/dhEmi", campos.data_hora_emissao, stack) ||
-        !read_required_path(found, "infNFe/ide/serie", campos.serie, stack) ||
-        !read_required_path(found, "infNFe/ide/cNF", campos.codigo_numerico, stack) ||
-        !read_required_path(found, "infNFe/ide/nNF", campos.numero_nota_fiscal, stack) ||
-        !read_optional_path(found, "infNFe/dest/email", campos.email_destinatario, stack)) {
+    if (!read_required_path(found, tp_amb, campos.tipo_ambiente, stack) ||
+        !read_required_path(found, mod, campos.modelo_documento, stack) ||
+        !read_required_path(found, c_uf, campos.uf, stack) ||
+        !read_optional_path(found, qr_code, campos.qrcode_value, stack) ||
+        !read_optional_path(found, url_chave, campos.url_chave, stack) ||
+        !read_required_path(found, dh_emi, campos.data_hora_emissao, stack) ||
+        !read_required_path(found, serie, campos.serie, stack) ||
+        !read_required_path(found, c_nf, campos.codigo_numerico, stack) ||
+        !read_required_path(found, n_nf, campos.numero_nota_fiscal, stack) ||
+        !read_optional_path(found, dest_email, campos.email_destinatario, stack)) {
         return false;
     }
-    for (char const* path : destination_identifiers) {
-        if (xml::element const* identifier = lookup(found, path)) {
+    for (path const index : destination_identifiers) {
+        if (xml::element const* identifier = found[index]) {
             campos.identificador_destinatario = identifier->get_contents();
             break;
         }
     }
-    return read_required_path(found, "infNFe/total/ICMSTot/vNF", campos.valor_total, stack) &&
-           read_required_path(found, "infNFe/total/ICMSTot/vICMS", campos.valor_icms, stack);
+    return read_required_path(found, v_nf, campos.valor_total, stack) &&
+           read_required_path(found, v_icms, campos.valor_icms, stack);
 }
 
 // The child of `copy` at the position `child` has among the children of
@@ -181,8 +202,8 @@ documento_fiscal documento_fiscal::from_xml(xml::element&& elemento, core::resul
         return result;
     }
     // Looked up in the object's own tree, so the pointers stay good.
-    found_elements const found = find_elements_by_path(data.xml, wanted_paths);
-    if (lookup(found, "infNFe") == nullptr) {
+    found_elements const found = wanted.find_in(data.xml);
+    if (found[inf_nfe] == nullptr) {
         core::result::fresh<result_category::elemento_ausente>(stack, "NFe/infNFe");
         return result;
     }
@@ -255,7 +276,8 @@ core::optional<std::string> documento_fiscal::get_identificador_destinatario() c
 
 std::string documento_fiscal::get_digest_value() const
 {
-    found_elements const found = find_elements_by_path(dados_->xml, {digest_path});
+    std::unordered_map<std::string, xml::element const*> const found =
+        find_elements_by_path(dados_->xml, {digest_path});
     if (xml::element const* digest = lookup(found, digest_path)) {
         return digest->get_contents();
     }
