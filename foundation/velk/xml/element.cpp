@@ -318,6 +318,16 @@ element& element::append_element(std::string_view name)
     return *impl_->children.emplace_back(element(std::move(contents))).as_element();
 }
 
+void element::append_text(std::string const& contents)
+{
+    impl_->children.emplace_back(std::in_place_type<text>, contents);
+}
+
+void element::append_text(std::string&& contents)
+{
+    impl_->children.emplace_back(std::in_place_type<text>, std::move(contents));
+}
+
 attribute* element::find_attribute(std::string const& namespace_uri, std::string const& name)
 {
     return impl_->more == nullptr ? nullptr : find_in(impl_->more->attributes, namespace_uri, name);

@@ -3,7 +3,6 @@
 #include <velk/core/converter.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
-#include <velk/xml/text.hpp>
 
 #include <algorithm>
 #include <cstddef>
@@ -33,7 +32,7 @@ bool escrever_texto(xml::element& pai, std::string_view tag, Texto&& valor)
 {
     xml::element& elemento = pai.append_element(tag);
     if (!valor.empty()) {
-        elemento.append_node(xml::text(std::forward<Texto>(valor)));
+        elemento.append_text(std::forward<Texto>(valor));
     }
     return true;
 }
