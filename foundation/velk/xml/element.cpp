@@ -53,7 +53,7 @@ shared_uri resolve(contents_type const& scope, std::string_view prefix)
         if (own_prefix && *scope.namespace_uri == declaration->get_uri()) {
             return scope.namespace_uri;
         }
-        return std::make_shared<std::string const>(declaration->get_uri());
+        return detail::namespace_uris::shared(declaration->get_uri());
     }
     return own_prefix ? scope.namespace_uri : nullptr;
 }
@@ -251,7 +251,7 @@ bool element::append_namespace(namespace_id const& value, core::result::stack& s
     }
     impl_->more_or_new().namespaces.push_back(value);
     if (impl_->prefix() == prefix) {
-        impl_->namespace_uri = value.get_uri().empty() ? nullptr : std::make_shared<std::string const>(value.get_uri());
+        impl_->namespace_uri = detail::namespace_uris::shared(value.get_uri());
     }
     adopt_all(*impl_);
     return true;
@@ -318,6 +318,16 @@ element& element::append_element(std::string_view name)
     return *impl_->children.emplace_back(element(std::move(contents))).as_element();
 }
 
+void element::append_text(std::string const& contents)
+{
+    impl_->children.emplace_back(std::in_place_type<text>, contents);
+}
+
+void element::append_text(std::string&& contents)
+{
+    impl_->children.emplace_back(std::in_place_type<text>, std::move(contents));
+}
+
 attribute* element::find_attribute(std::string const& namespace_uri, std::string const& name)
 {
     return impl_->more == nullptr ? nullptr : find_in(impl_->more->attributes, namespace_uri, name);
@@ -369,7 +379,7 @@ std::string const& element::get_namespace_uri() const
 
 void element::set_namespace_uri(std::string const& uri)
 {
-    impl_->namespace_uri = uri.empty() ? nullptr : std::make_shared<std::string const>(uri);
+    impl_->namespace_uri = detail::namespace_uris::shared(uri);
     adopt_all(*impl_);
 }
 

@@ -76,6 +76,10 @@ public:
     // takes at once the namespace its prefix names here, as append_node gives
     // it; the name is kept as given, as by the constructor.
     element& append_element(std::string_view name);
+    // Appends a text child of these contents, made in place: the same as
+    // append_node(text(contents)) without the text moved in.
+    void append_text(std::string const& contents);
+    void append_text(std::string&& contents);
 
     // The attribute of that local name: with an empty namespace_uri one without
     // a prefix, else one whose resolved namespace is namespace_uri. Null when

@@ -8,6 +8,7 @@
 #include <velk/xml/processing_instruction.hpp>
 #include <velk/xml/text.hpp>
 
+#include <string>
 #include <utility>
 #include <variant>
 
@@ -21,6 +22,9 @@ public:
     node(element&& value) : value_(std::move(value)) {}
     node(text const& value) : value_(value) {}
     node(text&& value) : value_(std::move(value)) {}
+    // A text made in place from its contents, without a text moved in.
+    node(std::in_place_type_t<text>, std::string const& contents) : value_(std::in_place_type<text>, contents) {}
+    node(std::in_place_type_t<text>, std::string&& contents) : value_(std::in_place_type<text>, std::move(contents)) {}
     node(cdata_section const& value) : value_(value) {}
     node(cdata_section&& value) : value_(std::move(value)) {}
     node(comment const& value) : value_(value) {}

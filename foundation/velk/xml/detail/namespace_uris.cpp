@@ -4,11 +4,33 @@
 #include <libxml/uri.h>
 #include <libxml/xmlmemory.h>
 
+#include <array>
 #include <string_view>
 
 namespace velk::xml {
 inline namespace v3 {
 namespace detail {
+
+std::shared_ptr<std::string const> namespace_uris::shared(std::string uri)
+{
+    if (uri.empty()) {
+        return nullptr;
+    }
+    // Never destroyed, so that an element that outlives the static objects
+    // still points at its namespace.
+    static auto const* const well_known = new std::array<std::string const, 3>{
+        "http://www.portalfiscal.inf.br/nfe",
+        "http://www.w3.org/2000/09/xmldsig#",
+        "http://www.w3.org/2003/05/soap-envelope",
+    };
+    for (std::string const& known : *well_known) {
+        if (known == uri) {
+            // Aliasing an empty owner: copies and destruction touch no count.
+            return std::shared_ptr<std::string const>(std::shared_ptr<void>(), &known);
+        }
+    }
+    return std::make_shared<std::string const>(std::move(uri));
+}
 
 std::string namespace_uris::as_declared(unsigned char const* href)
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <memory>
 #include <string>
 
 struct _xmlDoc;
@@ -16,6 +17,14 @@ namespace detail {
 // an "&" after a "#" that is a good URI as declared.
 class namespace_uris {
 public:
+    // The URI as an element keeps it, null for an empty one. The namespaces of
+    // the documents this family writes and reads are kept once for the life of
+    // the process and handed out by a pointer that owns nothing: an element in
+    // one of them, the bulk of every tree, is copied and dropped without an
+    // atomic count shared between threads. Any other URI gets a text of its
+    // own, shared by count.
+    static std::shared_ptr<std::string const> shared(std::string uri);
+
     // The URI as declared: each "&#38;" is one "&" (a raw "&" cannot occur).
     static std::string as_declared(unsigned char const* href);
 

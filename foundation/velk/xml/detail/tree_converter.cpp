@@ -57,8 +57,7 @@ public:
                 return uri;
             }
         }
-        std::string text = namespace_uris::as_declared(ns->href);
-        auto uri = text.empty() ? nullptr : std::make_shared<std::string const>(std::move(text));
+        auto uri = namespace_uris::shared(namespace_uris::as_declared(ns->href));
         known_.emplace_back(ns, uri);
         return uri;
     }

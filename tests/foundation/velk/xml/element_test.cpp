@@ -243,4 +243,33 @@ TEST(element_namespaces, a_child_made_in_place_has_the_namespace_it_would_take_w
     EXPECT_EQ(child_names(bare), std::vector<std::string>{"child"});
 }
 
+// A namespace kept for the life of the process (that of NF-e) and one that is
+// not: texts made in place, copied or moved, are the texts appended whole, and
+// a copy of a part outlives its tree and still declares its namespace.
+TEST(element_namespaces, texts_made_in_place_and_parts_copied_out_of_their_tree)
+{
+    for (char const* uri : {"http://www.portalfiscal.inf.br/nfe", "urn:nfe"}) {
+        stack report;
+        element copy("none");
+        {
+            element made("NFe");
+            element appended("NFe");
+            for (element* root : {&made, &appended}) {
+                ASSERT_TRUE(root->append_namespace(namespace_id("", uri), report));
+            }
+            std::string const kept = "a text longer than the room kept inside a string";
+            made.append_element("a").append_text(kept);
+            made.append_element("b").append_text(std::string("moved"));
+            appended.append_element("a").append_node(text(kept));
+            appended.append_element("b").append_node(text("moved"));
+            EXPECT_EQ(saved_text(made), saved_text(appended)) << uri;
+            EXPECT_EQ(made.find_child("a")->get_contents(), kept);
+            copy = *made.find_child("b");
+        }
+        EXPECT_EQ(copy.get_namespace_uri(), uri);
+        EXPECT_EQ(saved_text(copy),
+                  std::string("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<b xmlns=\"") + uri + "\">moved</b>");
+    }
+}
+
 }  // namespace

@@ -3,8 +3,10 @@
 #include <velk/core/converter.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
-#include <velk/xml/text.hpp>
 
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
 #include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::layout_4_00 {
@@ -30,7 +32,7 @@ bool escrever_texto(xml::element& pai, std::string_view tag, Texto&& valor)
 {
     xml::element& elemento = pai.append_element(tag);
     if (!valor.empty()) {
-        elemento.append_node(xml::text(std::forward<Texto>(valor)));
+        elemento.append_text(std::forward<Texto>(valor));
     }
     return true;
 }
@@ -50,14 +52,19 @@ bool txt(xml::element& pai, std::string_view tag, std::string&& valor, core::res
 bool u(xml::element& pai, std::string_view tag, std::uint64_t valor, core::result::stack& stack,
        unsigned int largura)
 {
-    std::string digitos;
-    if (!texto_convertido(tag, valor, digitos, stack)) {
-        return false;
-    }
-    if (digitos.size() < largura) {
-        digitos.insert(0, largura - digitos.size(), '0');
-    }
-    return txt(pai, tag, std::move(digitos), stack);
+    // A whole number always has its digits: written from the last one back,
+    // then put at the end of a text already holding the zeros of the width.
+    char digitos[24];
+    char* const fim = std::end(digitos);
+    char* inicio = fim;
+    do {
+        *--inicio = static_cast<char>('0' + valor % 10);
+        valor /= 10;
+    } while (valor != 0);
+    std::size_t const tamanho = static_cast<std::size_t>(fim - inicio);
+    std::string texto(std::max<std::size_t>(tamanho, largura), '0');
+    std::copy(inicio, fim, texto.end() - static_cast<std::ptrdiff_t>(tamanho));
+    return txt(pai, tag, std::move(texto), stack);
 }
 
 bool d(xml::element& pai, std::string_view tag, core::decimal const& valor, core::result::stack& stack,
