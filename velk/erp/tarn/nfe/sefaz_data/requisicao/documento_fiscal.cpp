@@ -11,6 +11,8 @@
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/detail/documento_fiscal_dados.hpp>
 #include <velk/xml/node.hpp>
 
+#include <array>
+#include <string_view>
 #include <utility>
 
 namespace velk::erp::inline v4::tarn::nfe::sefaz_data::requisicao {
@@ -25,16 +27,21 @@ enum path : std::size_t {
     dest_email, dest_cpf, dest_cnpj, dest_id_estrangeiro,
     v_nf, v_icms,
     qr_code, url_chave,
+    path_count
 };
 
-std::vector<std::string> const wanted_paths = {
+// One path for every index above, in the same order.
+constexpr auto wanted_names = std::to_array<std::string_view>({
     "infNFe",
     "infNFe/ide/tpAmb", "infNFe/ide/mod", "infNFe/ide/cUF", "infNFe/ide/dhEmi",
     "infNFe/ide/serie", "infNFe/ide/cNF", "infNFe/ide/nNF",
     "infNFe/dest/email", "infNFe/dest/CPF", "infNFe/dest/CNPJ", "infNFe/dest/idEstrangeiro",
     "infNFe/total/ICMSTot/vNF", "infNFe/total/ICMSTot/vICMS",
     "infNFeSupl/qrCode", "infNFeSupl/urlChave",
-};
+});
+static_assert(wanted_names.size() == path_count);
+
+std::vector<std::string> const wanted_paths(wanted_names.begin(), wanted_names.end());
 
 // The paths split once: every document read walks the same ones.
 sefaz_data::detail::path_set const wanted(wanted_paths);
