@@ -123,7 +123,7 @@ char const* depois_do_espaco(char const* p, char const* fim)
 
 // Two runs of `n` bytes compared in words, without a call: the names of a
 // note's fields are short.
-bool mesmos_bytes(char const* a, char const* b, std::size_t n)
+[[gnu::always_inline]] inline bool mesmos_bytes(char const* a, char const* b, std::size_t n)
 {
     auto const palavra = [](char const* p) {
         std::uint64_t w;
@@ -614,6 +614,19 @@ private:
         return true;
     }
 
+    // The field a key names when it is one of the few that follow the last
+    // key in the message's order, as in a note written in that order; null
+    // otherwise, and the lookup by name decides.
+    static campo_lido const* previsto(campo_lido const* proximo, std::string_view chave)
+    {
+        for (int i = 0; i < 3 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
+            if (proximo->nome.size() == chave.size() && mesmos_bytes(proximo->nome.data(), chave.data(), chave.size())) {
+                return proximo;
+            }
+        }
+        return nullptr;
+    }
+
     bool objeto(tipo_lido const& tipo, int profundidade)
     {
         if (profundidade > leitor_json::profundidade_maxima) {
@@ -625,6 +638,7 @@ private:
         ++p_;
         std::uint64_t oneofs = 0;
         std::string nome;
+        campo_lido const* proximo = tipo.primeiro;
         while (true) {
             pular_espaco();
             if (p_ != fim_ && *p_ == '}') {
@@ -641,10 +655,14 @@ private:
             }
             ++p_;
             pular_espaco();
-            leitor_json::campo const* const campo = tipo.campos.achar(chave_lida);
+            leitor_json::campo const* campo = previsto(proximo, chave_lida);
             if (campo == nullptr) {
-                return falha(std::string(chave_lida) + ": cannot find field");
+                campo = tipo.campos.achar(chave_lida);
+                if (campo == nullptr) {
+                    return falha(std::string(chave_lida) + ": cannot find field");
+                }
             }
+            proximo = campo->seguinte;
             if (!valor_do_campo(*campo, oneofs, profundidade)) {
                 return false;
             }
@@ -1211,6 +1229,33 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         novo.campos.incluir(descritor_campo->name(), &lido);
         novo.campos.incluir(descritor_campo->json_name(), &lido);
     }
+    // The chain of guesses, by number: only the fields that their own name
+    // finds, so that a guess never finds what the lookup would not.
+    std::vector<campo*> por_numero;
+    for (campo& lido : novo.lista) {
+        if (novo.campos.achar(lido.descritor->name()) == &lido) {
+            lido.nome = lido.descritor->name();
+            por_numero.push_back(&lido);
+        }
+    }
+    std::sort(por_numero.begin(), por_numero.end(),
+              [](campo const* a, campo const* b) { return a->descritor->number() < b->descritor->number(); });
+    campo const* seguinte = nullptr;
+    for (auto i = por_numero.rbegin(); i != por_numero.rend(); ++i) {
+        (*i)->seguinte = seguinte;
+        seguinte = *i;
+    }
+    for (campo& lido : novo.lista) {
+        if (lido.seguinte == nullptr && lido.nome.empty() && !por_numero.empty()) {
+            // A field outside the chain: the guesses go on from the field
+            // of the next number.
+            auto const depois = std::find_if(por_numero.begin(), por_numero.end(), [&](campo const* outro) {
+                return outro->descritor->number() > lido.descritor->number();
+            });
+            lido.seguinte = depois == por_numero.end() ? nullptr : *depois;
+        }
+    }
+    novo.primeiro = seguinte;
     for (campo& lido : novo.lista) {
         if (Descriptor const* tipo_mensagem = lido.descritor->message_type()) {
             lido.mensagem = &indexar(*tipo_mensagem);

@@ -46,6 +46,12 @@ public:
     // on every call.
     struct campo {
         google::protobuf::FieldDescriptor const* descritor = nullptr;
+        // The name of the .proto file, which the keys of a note usually are.
+        std::string_view nome;
+        // The field that follows this one in the message's binary form (by
+        // number), as the keys of a note usually follow each other; null
+        // for the last.
+        campo const* seguinte = nullptr;
         google::protobuf::FieldDescriptor::CppType tipo_cpp{};
         google::protobuf::FieldDescriptor::Type tipo_campo{};
         // The field's tag in the binary form, as a varint of
@@ -91,6 +97,9 @@ public:
         // The fields in the order of the descriptor.
         std::vector<campo> lista;
         google::protobuf::Descriptor const* descritor = nullptr;
+        // The field of the lowest number: where the guesses of an object's
+        // keys start (see `seguinte`).
+        campo const* primeiro = nullptr;
         // By the name of the .proto file and by its lowerCamelCase form.
         campos_por_nome campos;
         // google.protobuf's wrappers: written as their bare value as well.
