@@ -614,13 +614,23 @@ private:
         return true;
     }
 
-    // The field a key names when it is one of the few that follow the last
-    // key in the message's order, as in a note written in that order; null
-    // otherwise, and the lookup by name decides.
-    static campo_lido const* previsto(campo_lido const* proximo, std::string_view chave)
+    // The field whose name the quoted key at `p_` is, when it is one of the
+    // few that follow the last key in the message's order, as in a note
+    // written in that order: then the key is passed over, and neither
+    // scanned nor looked up. Null otherwise, with `p_` where it was. A name
+    // has no quote, backslash or byte above ASCII, so the key that shows
+    // it and then its closing quote is that name.
+    campo_lido const* chave_prevista(campo_lido const* proximo)
     {
+        if (p_ == fim_ || (*p_ != '"' && *p_ != '\'')) {
+            return nullptr;
+        }
+        char const aspa = *p_;
+        auto const resta = static_cast<std::size_t>(fim_ - p_);
         for (int i = 0; i < 3 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
-            if (proximo->nome.size() == chave.size() && mesmos_bytes(proximo->nome.data(), chave.data(), chave.size())) {
+            std::size_t const n = proximo->nome.size();
+            if (n + 2 <= resta && p_[n + 1] == aspa && mesmos_bytes(p_ + 1, proximo->nome.data(), n)) {
+                p_ += n + 2;
                 return proximo;
             }
         }
@@ -646,7 +656,8 @@ private:
                 return true;
             }
             std::string_view chave_lida;
-            if (!chave(nome, chave_lida)) {
+            campo_lido const* campo = chave_prevista(proximo);
+            if (campo == nullptr && !chave(nome, chave_lida)) {
                 return false;
             }
             pular_espaco();
@@ -655,7 +666,6 @@ private:
             }
             ++p_;
             pular_espaco();
-            leitor_json::campo const* campo = previsto(proximo, chave_lida);
             if (campo == nullptr) {
                 campo = tipo.campos.achar(chave_lida);
                 if (campo == nullptr) {
