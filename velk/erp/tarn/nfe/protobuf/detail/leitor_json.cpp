@@ -94,6 +94,58 @@ char const* depois_do_espaco(char const* p, char const* fim)
     return p;
 }
 
+// The whitespace before the keys of one object is nearly always the same
+// run, a newline and the object's indentation: once seen, the next gap is
+// compared with it whole and passed over by its known width, so that where
+// the next key starts does not wait on a search through the bytes.
+class lacuna_repetida {
+public:
+    // True, and `p` past the gap, when the gap at `p` is the one remembered.
+    bool passar(char const*& p, char const* fim) const
+    {
+#if defined(__SSE2__)
+        if (largura_ == 0 || fim - p < 16) {
+            return false;
+        }
+        auto const iguais = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<__m128i const*>(p)), bytes_)));
+        unsigned const todos = (1u << largura_) - 1;
+        if ((iguais & todos) != todos || espaco(p[largura_])) {
+            return false;
+        }
+        p += largura_;
+        return true;
+#else
+        (void)p;
+        (void)fim;
+        return false;
+#endif
+    }
+
+    // The gap from `comeco` to `depois` remembered, when it fits a block.
+    void lembrar(char const* comeco, char const* depois, char const* fim)
+    {
+#if defined(__SSE2__)
+        largura_ = static_cast<unsigned>(depois - comeco);
+        if (largura_ >= 16 || fim - comeco < 16) {
+            largura_ = 0;
+            return;
+        }
+        bytes_ = _mm_loadu_si128(reinterpret_cast<__m128i const*>(comeco));
+#else
+        (void)comeco;
+        (void)depois;
+        (void)fim;
+#endif
+    }
+
+private:
+    unsigned largura_ = 0;
+#if defined(__SSE2__)
+    __m128i bytes_{};
+#endif
+};
+
 // The first byte at or after `p` that the inside of a string stops at: a
 // quote, a backslash or a byte of a multibyte character; 16 bytes at a time
 // where the machine can.
@@ -649,8 +701,13 @@ private:
         std::uint64_t oneofs = 0;
         std::string nome;
         campo_lido const* proximo = tipo.primeiro;
+        lacuna_repetida lacuna;
         while (true) {
-            pular_espaco();
+            if (!lacuna.passar(p_, fim_)) {
+                char const* const antes = p_;
+                pular_espaco();
+                lacuna.lembrar(antes, p_, fim_);
+            }
             if (p_ != fim_ && *p_ == '}') {
                 ++p_;
                 return true;
@@ -665,7 +722,12 @@ private:
                 return falha("expected : between key and value");
             }
             ++p_;
-            pular_espaco();
+            // Mostly a single space.
+            if (fim_ - p_ >= 2 && p_[0] == ' ' && !espaco(p_[1])) {
+                ++p_;
+            } else {
+                pular_espaco();
+            }
             if (campo == nullptr) {
                 campo = tipo.campos.achar(chave_lida);
                 if (campo == nullptr) {
