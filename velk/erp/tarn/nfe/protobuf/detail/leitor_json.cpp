@@ -97,49 +97,95 @@ char const* depois_do_espaco(char const* p, char const* fim)
 // The whitespace before the keys of one object is nearly always the same
 // run, a newline and the object's indentation: once seen, the next gap is
 // compared with it whole and passed over by its known width, so that where
-// the next key starts does not wait on a search through the bytes.
+// the next key starts does not wait on a search through the bytes. The gap
+// before the object's closing brace is expected one step of indentation
+// shorter, and the first of an object within it one step longer.
 class lacuna_repetida {
 public:
     // True, and `p` past the gap, when the gap at `p` is the one remembered.
-    bool passar(char const*& p, char const* fim) const
+    bool passar(char const*& p, char const* fim) const { return passar(p, fim, largura_, false); }
+
+    // True, and `p` past the gap, when the gap at `p` is the one remembered
+    // short of `passo` bytes and a closing brace follows it.
+    bool passar_ao_fim(char const*& p, char const* fim, unsigned passo) const
     {
-#if defined(__SSE2__)
-        if (largura_ == 0 || fim - p < 16) {
-            return false;
-        }
-        auto const iguais = static_cast<unsigned>(
-            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<__m128i const*>(p)), bytes_)));
-        unsigned const todos = (1u << largura_) - 1;
-        if ((iguais & todos) != todos || espaco(p[largura_])) {
-            return false;
-        }
-        p += largura_;
-        return true;
-#else
-        (void)p;
-        (void)fim;
-        return false;
-#endif
+        return largura_ > passo && passar(p, fim, largura_ - passo, true);
     }
 
     // The gap from `comeco` to `depois` remembered, when it fits a block.
     void lembrar(char const* comeco, char const* depois, char const* fim)
     {
-#if defined(__SSE2__)
         largura_ = static_cast<unsigned>(depois - comeco);
         if (largura_ >= 16 || fim - comeco < 16) {
             largura_ = 0;
             return;
         }
+#if defined(__SSE2__)
         bytes_ = _mm_loadu_si128(reinterpret_cast<__m128i const*>(comeco));
-#else
-        (void)comeco;
-        (void)depois;
-        (void)fim;
 #endif
     }
 
+    unsigned largura() const { return largura_; }
+
+    // The gap expected before the first key of an object within this one:
+    // this one with `passo` more of its last byte.
+    lacuna_repetida dentro(unsigned passo) const
+    {
+        lacuna_repetida filha;
+#if defined(__SSE2__)
+        if (largura_ != 0 && passo != 0 && largura_ + passo < 16) {
+            filha.largura_ = largura_ + passo;
+            __m128i const recuo = _mm_set1_epi8(static_cast<char>(ultimo_byte()));
+            filha.bytes_ = _mm_or_si128(_mm_and_si128(bytes_, ate(largura_)),
+                                        _mm_andnot_si128(ate(largura_), _mm_and_si128(recuo, ate(filha.largura_))));
+        }
+#else
+        (void)passo;
+#endif
+        return filha;
+    }
+
 private:
+#if defined(__SSE2__)
+    // The first `n` lanes set, the others clear.
+    static __m128i ate(unsigned n)
+    {
+        static constexpr std::array<unsigned char, 32> uns = {
+            0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF};
+        return _mm_loadu_si128(reinterpret_cast<__m128i const*>(uns.data() + 16 - n));
+    }
+
+    unsigned char ultimo_byte() const
+    {
+        alignas(16) std::array<unsigned char, 16> bytes;
+        _mm_store_si128(reinterpret_cast<__m128i*>(bytes.data()), bytes_);
+        return bytes[largura_ - 1];
+    }
+#endif
+
+    bool passar(char const*& p, char const* fim, unsigned largura, bool fecha) const
+    {
+#if defined(__SSE2__)
+        if (largura == 0 || fim - p < 16) {
+            return false;
+        }
+        auto const iguais = static_cast<unsigned>(
+            _mm_movemask_epi8(_mm_cmpeq_epi8(_mm_loadu_si128(reinterpret_cast<__m128i const*>(p)), bytes_)));
+        unsigned const todos = (1u << largura) - 1;
+        if ((iguais & todos) != todos || (fecha ? p[largura] != '}' : espaco(p[largura]))) {
+            return false;
+        }
+        p += largura;
+        return true;
+#else
+        (void)p;
+        (void)fim;
+        (void)largura;
+        (void)fecha;
+        return false;
+#endif
+    }
+
     unsigned largura_ = 0;
 #if defined(__SSE2__)
     __m128i bytes_{};
@@ -701,12 +747,19 @@ private:
         std::uint64_t oneofs = 0;
         std::string nome;
         campo_lido const* proximo = tipo.primeiro;
-        lacuna_repetida lacuna;
+        lacuna_repetida const* const mae = mae_;
+        lacuna_repetida lacuna = mae != nullptr ? mae->dentro(passo_) : lacuna_repetida();
         while (true) {
-            if (!lacuna.passar(p_, fim_)) {
+            if (!lacuna.passar(p_, fim_) && !lacuna.passar_ao_fim(p_, fim_, passo_)) {
                 char const* const antes = p_;
                 pular_espaco();
+                bool const primeira = lacuna.largura() == 0;
                 lacuna.lembrar(antes, p_, fim_);
+                // The step of indentation, from the first object met within
+                // another.
+                if (primeira && passo_ == 0 && mae != nullptr && lacuna.largura() > mae->largura()) {
+                    passo_ = lacuna.largura() - mae->largura();
+                }
             }
             if (p_ != fim_ && *p_ == '}') {
                 ++p_;
@@ -735,6 +788,7 @@ private:
                 }
             }
             proximo = campo->seguinte;
+            mae_ = &lacuna;
             if (!valor_do_campo(*campo, oneofs, profundidade)) {
                 return false;
             }
@@ -840,6 +894,9 @@ private:
     // the same field, at any depth, as protobuf's reader does.
     bool lista(campo_lido const& campo, int profundidade)
     {
+        // The objects of an array are indented further than their parent's
+        // keys by more than a step: none is expected.
+        mae_ = nullptr;
         std::size_t abertas = 0;
         bool depois_de_valor = false;
         while (true) {
@@ -876,6 +933,7 @@ private:
             if (c == ',') {
                 return falha("unexpected token");
             }
+            mae_ = nullptr;
             if (literal("null")) {
                 p_ += 4;
             } else if (!elemento(campo, profundidade)) {
@@ -1222,6 +1280,10 @@ private:
     // The binary form of the note; see espaco_para.
     std::string& bytes_;
     std::size_t usado_ = 0;
+    // The gap before the keys of the object whose value is being read, and
+    // the step of indentation of the text: see lacuna_repetida.
+    lacuna_repetida const* mae_ = nullptr;
+    unsigned passo_ = 0;
 };
 
 // The wire type of a field's values: how the binary form delimits them.
