@@ -154,6 +154,12 @@ std::vector<std::string> const cantos = {
     R"({nullx: 1})", R"({$x: 1})", R"({1numero: 1})", R"({"numero" 5})", R"({:1})", R"({"serie"})",
     R"({"serie":})", R"({"serie": "a": "b"})", R"({"numero": 5 "serie": "a"})", R"({"numero": 5, "numero": 7})",
     R"({"numero": 1, "numero": "x"})", R"({"numero_da_nota": 12})",
+    // Keys against the names expected next: out of order, cut short, run on,
+    // closed by the other quote, at the end of the text.
+    R"({"serie": "1", "modelo_emissao": "65"})", R"({"modelo_emissao": "65", "seri": "1"})",
+    R"({"modelo_emissao": "65", "seriex": "1"})", R"({"modelo_emissao": "65", "serie': "1"})",
+    R"({"modelo_emissao": "65", 'serie': "1"})", R"({"modelo_emissao": "65", "serie)",
+    R"({"modelo_emissao": "65", "se\u0072ie": "1"})",
     // The text around the note.
     "", " ", "{", "{}", " {} ", "{ }", "null", "[]", "[1, 2]", "5", "\"x\"", "{}x", "{} {}", "{}}", R"({"numero": 1]})",
     "{\"numero\": 1}\v\f\r\n\t ", "\v{\"numero\": 1}", std::string("{\"numero\": 1}\0", 14), "{\r\"numero\"\t:\n1 , }",
@@ -296,6 +302,55 @@ TEST(leitor_json, nesting_is_judged_as_protobuf_judges_it)
         }
         objetos += "{}" + std::string(niveis, '}') + "]}";
         EXPECT_EQ(diferenca(objetos), "") << niveis;
+    }
+}
+
+// The inputs the fuzzer of this reader keeps, odd ones above all.
+TEST(leitor_json, the_fuzzers_inputs_read_as_protobuf_reads_them)
+{
+    auto const pasta = velk::test::pasta_notas_json().parent_path() / "../../../../../../fuzz/corpus/nota_json";
+    int lidos = 0;
+    for (auto const& entrada : std::filesystem::directory_iterator(pasta)) {
+        std::string const texto = velk::test::read_text(entrada.path());
+        ASSERT_EQ(diferenca(texto), "") << entrada.path();
+        ++lidos;
+    }
+    EXPECT_GT(lidos, 100);
+}
+
+// Each note of the corpus laid out otherwise than by protobuf's printer:
+// without whitespace, indented by four spaces or by tabs, with Windows line
+// ends, with its gaps varied from line to line. The gaps and the spaces after
+// the colons are what the reader expects ahead of time.
+TEST(leitor_json, notes_laid_out_otherwise_read_as_protobuf_reads_them)
+{
+    auto const refeito = [](std::string const& texto, auto const& lacuna) {
+        std::string saida;
+        for (std::size_t i = 0; i < texto.size(); ++i) {
+            if (texto[i] != '\n') {
+                saida += texto[i];
+                continue;
+            }
+            std::size_t fim = i + 1;
+            while (fim < texto.size() && texto[fim] == ' ') {
+                ++fim;
+            }
+            saida += lacuna(fim - i - 1, i);
+            i = fim - 1;
+        }
+        return saida;
+    };
+    for (auto const& original : notas_do_corpus()) {
+        for (std::string const& texto : {
+                 refeito(original, [](std::size_t, std::size_t) { return std::string(); }),
+                 refeito(original, [](std::size_t n, std::size_t) { return "\n" + std::string(2 * n, ' '); }),
+                 refeito(original, [](std::size_t n, std::size_t) { return "\n" + std::string(n / 2, '\t'); }),
+                 refeito(original, [](std::size_t n, std::size_t) { return "\r\n" + std::string(n, ' '); }),
+                 refeito(original, [](std::size_t n, std::size_t i) { return "\n" + std::string(n + i % 3, ' '); }),
+                 refeito(original, [](std::size_t n, std::size_t i) { return (i % 2 ? "\n " : "\n\t") + std::string(n, ' '); }),
+             }) {
+            ASSERT_EQ(diferenca(texto), "") << texto;
+        }
     }
 }
 

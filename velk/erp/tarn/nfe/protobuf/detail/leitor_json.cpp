@@ -1134,7 +1134,101 @@ private:
     }
 
     // A scalar of a field, or of a wrapper's value, written with its tag.
-    bool escalar(campo_lido const& lido_do_campo)
+    // The usual pairs of field and value (a text, an enumeration by name, a
+    // whole number quoted or of digits only) are read here, without the
+    // general path's questions; anything else goes the general path from
+    // the value's start, which gives what it always gave.
+    bool escalar(campo_lido const& campo)
+    {
+        char const* const comeco = p_;
+        if (*p_ == '"') {
+            std::string_view vista;
+            switch (campo.tipo_campo) {
+            case FieldDescriptor::TYPE_STRING:
+                if (!texto(texto_, vista)) {
+                    return false;
+                }
+                campo_delimitado(campo, vista);
+                return true;
+            case FieldDescriptor::TYPE_ENUM:
+                if (!texto(texto_, vista)) {
+                    return false;
+                }
+                if (auto const* const nomeado = campo.valores->achar(vista)) {
+                    campo_varint(campo, static_cast<std::uint64_t>(static_cast<std::int64_t>(nomeado->number())));
+                    return true;
+                }
+                break;
+            case FieldDescriptor::TYPE_INT32: return inteiro_entre_aspas<std::int32_t>(campo, comeco);
+            case FieldDescriptor::TYPE_INT64: return inteiro_entre_aspas<std::int64_t>(campo, comeco);
+            case FieldDescriptor::TYPE_UINT32: return inteiro_entre_aspas<std::uint32_t>(campo, comeco);
+            case FieldDescriptor::TYPE_UINT64: return inteiro_entre_aspas<std::uint64_t>(campo, comeco);
+            default: break;
+            }
+        } else if (digito(*p_)) {
+            switch (campo.tipo_campo) {
+            case FieldDescriptor::TYPE_INT32: return inteiro_de_digitos<std::int32_t>(campo);
+            case FieldDescriptor::TYPE_INT64: return inteiro_de_digitos<std::int64_t>(campo);
+            case FieldDescriptor::TYPE_UINT32: return inteiro_de_digitos<std::uint32_t>(campo);
+            case FieldDescriptor::TYPE_UINT64: return inteiro_de_digitos<std::uint64_t>(campo);
+            default: break;
+            }
+        }
+        p_ = comeco;
+        return escalar_geral(campo);
+    }
+
+    // A whole number in quotes for a varint field.
+    template <class T>
+    bool inteiro_entre_aspas(campo_lido const& campo, char const* comeco)
+    {
+        std::string_view vista;
+        if (!texto(texto_, vista)) {
+            return false;
+        }
+        T valor{};
+        if (!inteiro(vista, valor)) {
+            p_ = comeco;
+            return escalar_geral(campo);
+        }
+        varint_de(campo, valor);
+        return true;
+    }
+
+    // A whole number of digits only, not started by a zero unless alone and
+    // not followed by what makes it a real number, for a varint field.
+    template <class T>
+    bool inteiro_de_digitos(campo_lido const& campo)
+    {
+        char const* q = p_;
+        std::uint64_t valor = 0;
+        // 19 digits never overflow 64 bits.
+        char const* const limite = fim_ - q > 19 ? q + 19 : fim_;
+        while (q != limite && digito(*q)) {
+            valor = valor * 10 + static_cast<std::uint64_t>(*q - '0');
+            ++q;
+        }
+        bool const segue_numero =
+            q != fim_ && (digito(*q) || *q == '.' || *q == 'e' || *q == 'E' || *q == '-' || *q == '+');
+        if (segue_numero || (*p_ == '0' && q - p_ > 1) || valor > static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
+            return escalar_geral(campo);
+        }
+        p_ = q;
+        varint_de(campo, static_cast<T>(valor));
+        return true;
+    }
+
+    // A whole number as a varint field writes it: a negative one in all ten
+    // bytes, as if of 64 bits.
+    template <class T>
+    void varint_de(campo_lido const& campo, T valor)
+    {
+        campo_varint(campo, static_cast<std::uint64_t>(
+                                static_cast<std::conditional_t<std::is_signed_v<T>, std::int64_t, std::uint64_t>>(valor)));
+    }
+
+    // Any scalar of a field, in any of the forms the text may give it.
+    [[gnu::noinline]] bool escalar_geral(campo_lido const& lido_do_campo)
     {
         FieldDescriptor const& campo = *lido_do_campo.descritor;
         numero lido;
