@@ -806,6 +806,11 @@ private:
         if (p_ == fim_) {
             return falha("expected a value");
         }
+        // A quoted or numeric value of a plain scalar field: neither null, nor
+        // a list, nor a member of a oneof to mark.
+        if (campo.escalar_simples && (*p_ == '"' || digito(*p_))) {
+            return escalar(campo);
+        }
         if (literal("null")) {
             p_ += 4;
             return true;
@@ -1444,6 +1449,7 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         lido.repetido = descritor_campo->is_repeated();
         lido.bytes = descritor_campo->type() == FieldDescriptor::TYPE_BYTES;
         lido.oneof = descritor_campo->containing_oneof() == nullptr ? -1 : descritor_campo->containing_oneof()->index();
+        lido.escalar_simples = !lido.repetido && lido.oneof < 0 && lido.tipo_cpp != FieldDescriptor::CPPTYPE_MESSAGE;
         lido.enumeracao = descritor_campo->enum_type();
         if (lido.enumeracao != nullptr) {
             auto const [valores, novos] = enumeracoes_.try_emplace(lido.enumeracao);

@@ -62,6 +62,8 @@ public:
         bool grupo = false;
         bool repetido = false;
         bool bytes = false;
+        // Neither repeated, nor in a oneof, nor a message.
+        bool escalar_simples = false;
         // The index of its oneof; -1 for none.
         int oneof = -1;
         // The type of a message field; null for a scalar.
