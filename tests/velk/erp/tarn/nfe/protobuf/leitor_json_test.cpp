@@ -262,7 +262,14 @@ TEST(leitor_json, every_kind_of_field_reads_as_protobuf_reads_it)
 // 127 bytes, messages past 2^14 and 2^21 bytes, nested.
 TEST(leitor_json, long_messages_read_as_protobuf_reads_them)
 {
+    // A decimal's few numbers take less than 128 bytes, unless repeated.
+    std::string decimal;
+    for (int i = 0; i < 20; ++i) {
+        decimal += R"("numero": "-)" + std::to_string(i) + R"(", "casas_decimais": 2, )";
+    }
+    decimal += R"("numero": "7")";
     for (auto const& texto : {R"({"emitente": {"cnpj": ")" + std::string(200, '1') + R"("}})",
+                              produto(R"("valor_total_bruto": {)" + decimal + "}"),
                               produto(R"("descricao": ")" + std::string(20000, 'x') + R"(", "ncm": 5)"),
                               endereco(R"("logadouro": ")" + std::string((1 << 21) + 5, 'y') + R"(", "cep": 7)")}) {
         EXPECT_EQ(diferenca(texto).substr(0, 300), "") << texto.substr(0, 60);

@@ -745,7 +745,6 @@ private:
         }
         ++p_;
         std::uint64_t oneofs = 0;
-        std::string nome;
         campo_lido const* proximo = tipo.primeiro;
         lacuna_repetida const* const mae = mae_;
         lacuna_repetida lacuna = mae != nullptr ? mae->dentro(passo_) : lacuna_repetida();
@@ -767,7 +766,7 @@ private:
             }
             std::string_view chave_lida;
             campo_lido const* campo = chave_prevista(proximo);
-            if (campo == nullptr && !chave(nome, chave_lida)) {
+            if (campo == nullptr && !chave(nome_, chave_lida)) {
                 return false;
             }
             pular_espaco();
@@ -852,12 +851,13 @@ private:
                 fim_do_grupo(campo);
                 return true;
             }
-            // Most messages of a note are shorter than 2^14 bytes.
-            std::size_t const comeco = abrir(2);
+            // Most messages of a note are shorter than 2^14 bytes, those of
+            // a few whole numbers shorter than 2^7.
+            std::size_t const comeco = abrir(tipo.reserva);
             if (!objeto(tipo, profundidade + 1)) {
                 return false;
             }
-            fechar(comeco, 2);
+            fechar(comeco, tipo.reserva);
             return true;
         }
         if (!tipo.embrulho) {
@@ -1375,6 +1375,8 @@ private:
     char const* const fim_;
     std::string texto_;
     std::string binario_;
+    // A key with an escape, undone; read and looked up before any value.
+    std::string nome_;
     std::string motivo_;
     // The binary form of the note; see espaco_para.
     std::string& bytes_;
@@ -1432,6 +1434,15 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     // One bit per oneof in the reading of an object.
     novo.desconhecido = novo.desconhecido || descritor.oneof_decl_count() > 64;
     novo.descritor = &descritor;
+    // The bytes kept for the length of a message of the type: one when it
+    // has only a few scalars of fixed bound, such as a decimal's.
+    bool pequeno = descritor.field_count() <= 4;
+    for (int i = 0; i < descritor.field_count(); ++i) {
+        FieldDescriptor const* const campo = descritor.field(i);
+        pequeno = pequeno && !campo->is_repeated() && campo->cpp_type() != FieldDescriptor::CPPTYPE_MESSAGE &&
+                  campo->cpp_type() != FieldDescriptor::CPPTYPE_STRING;
+    }
+    novo.reserva = pequeno ? 1 : 2;
     novo.lista.resize(static_cast<std::size_t>(descritor.field_count()));
     for (int i = 0; i < descritor.field_count(); ++i) {
         FieldDescriptor const* const descritor_campo = descritor.field(i);

@@ -104,6 +104,9 @@ public:
         campo const* primeiro = nullptr;
         // By the name of the .proto file and by its lowerCamelCase form.
         campos_por_nome campos;
+        // The bytes kept for the length of a message of the type, before it
+        // is known.
+        std::size_t reserva = 2;
         // google.protobuf's wrappers: written as their bare value as well.
         bool embrulho = false;
         // A well-known type whose JSON form this reader does not know.
