@@ -1434,15 +1434,6 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     // One bit per oneof in the reading of an object.
     novo.desconhecido = novo.desconhecido || descritor.oneof_decl_count() > 64;
     novo.descritor = &descritor;
-    // The bytes kept for the length of a message of the type: one when it
-    // has only a few scalars of fixed bound, such as a decimal's.
-    bool pequeno = descritor.field_count() <= 4;
-    for (int i = 0; i < descritor.field_count(); ++i) {
-        FieldDescriptor const* const campo = descritor.field(i);
-        pequeno = pequeno && !campo->is_repeated() && campo->cpp_type() != FieldDescriptor::CPPTYPE_MESSAGE &&
-                  campo->cpp_type() != FieldDescriptor::CPPTYPE_STRING;
-    }
-    novo.reserva = pequeno ? 1 : 2;
     novo.lista.resize(static_cast<std::size_t>(descritor.field_count()));
     for (int i = 0; i < descritor.field_count(); ++i) {
         FieldDescriptor const* const descritor_campo = descritor.field(i);
@@ -1506,6 +1497,29 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
             lido.mensagem = &indexar(*tipo_mensagem);
         }
     }
+    // The most a message of the type takes with each field once; no bound
+    // with a text, a list, or a type met again within itself (still being
+    // indexed, its bound not yet known).
+    constexpr std::size_t sem_limite = ~std::size_t{0} / 2;
+    std::size_t limite = 0;
+    for (campo const& lido : novo.lista) {
+        std::size_t valor = sem_limite;
+        if (lido.repetido || lido.tipo_cpp == FieldDescriptor::CPPTYPE_STRING) {
+            valor = sem_limite;
+        } else if (lido.mensagem != nullptr) {
+            valor = lido.mensagem->limite + (lido.grupo ? lido.tamanho_etiqueta : 10);
+        } else {
+            switch (tipo_no_fio(lido.tipo_campo)) {
+            case 1: valor = 8; break;
+            case 5: valor = 4; break;
+            default: valor = 10; break;
+            }
+        }
+        limite = valor >= sem_limite || limite >= sem_limite ? sem_limite : limite + lido.tamanho_etiqueta + valor;
+    }
+    novo.limite = limite;
+    // Those of less than 128 bytes have their length in one byte.
+    novo.reserva = limite < 128 ? 1 : 2;
     return novo;
 }
 

@@ -107,6 +107,9 @@ public:
         // The bytes kept for the length of a message of the type, before it
         // is known.
         std::size_t reserva = 2;
+        // The most bytes a message of the type takes with each field once;
+        // huge when there is no bound.
+        std::size_t limite = ~std::size_t{0} / 2;
         // google.protobuf's wrappers: written as their bare value as well.
         bool embrulho = false;
         // A well-known type whose JSON form this reader does not know.
