@@ -46,7 +46,9 @@ public:
     // on every call.
     struct campo {
         google::protobuf::FieldDescriptor const* descritor = nullptr;
-        // The name of the .proto file, which the keys of a note usually are.
+        // The name of the .proto file, which the keys of a note usually are;
+        // empty when the lookup by that name finds another field (one whose
+        // lowerCamelCase form it is), so that no guess is made with it.
         std::string_view nome;
         // The field that follows this one in the message's binary form (by
         // number), as the keys of a note usually follow each other; null
