@@ -1,5 +1,7 @@
 #include <velk/core/detail/decimal_text.hpp>
 
+#include <velk/core/detail/digits.hpp>
+
 #include <algorithm>
 #include <array>
 #include <cstddef>
@@ -12,6 +14,10 @@ namespace detail {
 namespace {
 
 constexpr unsigned int most_short_places = 19;
+// Zeros laid under the places: a whole number of words, so that they are
+// stored in a few moves.
+constexpr std::size_t zero_bed = 24;
+static_assert(zero_bed >= most_short_places && zero_bed <= sizeof(short_decimal_buffer));
 
 // 10^0 to 10^19, the divisors of the places a short text cuts.
 constexpr auto powers_of_ten = [] {
@@ -23,34 +29,6 @@ constexpr auto powers_of_ten = [] {
     }
     return powers;
 }();
-
-// "00" to "99", the two last digits of a number at a time.
-constexpr auto digit_pairs = [] {
-    std::array<char, 200> pairs{};
-    for (std::size_t n = 0; n < 100; ++n) {
-        pairs[2 * n] = static_cast<char>('0' + n / 10);
-        pairs[2 * n + 1] = static_cast<char>('0' + n % 10);
-    }
-    return pairs;
-}();
-
-// The digits of `number` written back from `end`, none for zero; gives where
-// they begin.
-char* write_digits(unsigned long long number, char* end)
-{
-    while (number >= 100) {
-        end -= 2;
-        std::memcpy(end, &digit_pairs[2 * (number % 100)], 2);
-        number /= 100;
-    }
-    if (number >= 10) {
-        end -= 2;
-        std::memcpy(end, &digit_pairs[2 * number], 2);
-    } else if (number > 0) {
-        *--end = static_cast<char>('0' + number);
-    }
-    return end;
-}
 
 // Adds one to a string of decimal digits, growing it on a carry out.
 void increment(std::string& digits)
@@ -98,7 +76,7 @@ std::string_view short_decimal_text(long long unscaled, short exponent, unsigned
     // The places are laid on zeros, which stand for the missing places and
     // for the leading zeros of the fractional digits.
     char* const end = buffer + sizeof buffer;
-    std::memset(end - most_short_places, '0', most_short_places);
+    std::memset(end - zero_bed, '0', zero_bed);
     unsigned long long const scale = powers_of_ten[decimals - zeros];
     unsigned long long const integral = magnitude / scale;
     write_digits(magnitude - integral * scale, end - zeros);
