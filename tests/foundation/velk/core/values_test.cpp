@@ -1,11 +1,13 @@
 #include <velk/core/binary_encoder.hpp>
 #include <velk/core/byte_array.hpp>
 #include <velk/core/decimal.hpp>
+#include <velk/core/detail/decimal_text.hpp>
 #include <velk/core/optional.hpp>
 #include <velk/core/variant.hpp>
 
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <string>
 
 namespace {
@@ -34,6 +36,33 @@ TEST(decimal, writes_exactly_the_places_asked_rounding_half_away_from_zero)
         EXPECT_EQ(r.value.to_string(r.places, '.'), r.expected);
     }
     EXPECT_EQ(decimal(1250, -2).to_string(2, ','), "12,50");
+}
+
+// The one-pass text of the usual values against the digit-by-digit one, over
+// magnitudes at the edges of rounding and of 64 bits, every place count the
+// short text takes and one beyond.
+TEST(decimal, short_text_agrees_with_the_general_one)
+{
+    int short_ones = 0;
+    for (long long const unscaled : {0LL, 1LL, 4LL, 5LL, 9LL, 49LL, 50LL, 95LL, 99LL, 1250LL, 99999LL, 123456789LL,
+                                     500000000000000000LL, 999999999999999999LL, 5000000000000000000LL, LLONG_MAX}) {
+        for (long long const value : {unscaled, -unscaled - (unscaled == LLONG_MAX ? 1 : 0)}) {
+            for (int exponent = 2; exponent >= -21; --exponent) {
+                for (unsigned decimals = 0; decimals <= 20; ++decimals) {
+                    velk::core::detail::short_decimal_buffer buffer;
+                    std::string_view const fast =
+                        velk::core::detail::short_decimal_text(value, static_cast<short>(exponent), decimals, ',', buffer);
+                    if (!fast.empty()) {
+                        ++short_ones;
+                        EXPECT_EQ(fast, velk::core::detail::general_decimal_text(value, static_cast<short>(exponent),
+                                                                                 decimals, ','))
+                            << value << "e" << exponent << " to " << decimals;
+                    }
+                }
+            }
+        }
+    }
+    EXPECT_GT(short_ones, 10000);
 }
 
 TEST(decimal, sums_exactly_and_compares_by_value)

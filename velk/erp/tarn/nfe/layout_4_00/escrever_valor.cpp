@@ -1,11 +1,13 @@
 #include <velk/erp/tarn/nfe/layout_4_00/escrever_valor.hpp>
 
 #include <velk/core/converter.hpp>
+#include <velk/core/detail/digits.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 
 #include <algorithm>
 #include <cstddef>
+#include <cstring>
 #include <iterator>
 #include <utility>
 
@@ -52,18 +54,18 @@ bool txt(xml::element& pai, std::string_view tag, std::string&& valor, core::res
 bool u(xml::element& pai, std::string_view tag, std::uint64_t valor, core::result::stack& stack,
        unsigned int largura)
 {
-    // A whole number always has its digits: written from the last one back,
-    // then put at the end of a text already holding the zeros of the width.
-    char digitos[24];
+    // The digits written from the last one back on a bed of zeros, which
+    // gives the fill of the width; a wider width is filled apart.
+    char digitos[32];
+    std::memset(digitos, '0', sizeof digitos);
     char* const fim = std::end(digitos);
-    char* inicio = fim;
-    do {
-        *--inicio = static_cast<char>('0' + valor % 10);
-        valor /= 10;
-    } while (valor != 0);
+    char* const inicio = valor == 0 ? fim - 1 : core::detail::write_digits(valor, fim);
     std::size_t const tamanho = static_cast<std::size_t>(fim - inicio);
-    std::string texto(std::max<std::size_t>(tamanho, largura), '0');
-    std::copy(inicio, fim, texto.end() - static_cast<std::ptrdiff_t>(tamanho));
+    if (largura <= sizeof digitos) {
+        return txt(pai, tag, std::string(fim - std::max<std::size_t>(tamanho, largura), fim), stack);
+    }
+    std::string texto(largura - tamanho, '0');
+    texto.append(inicio, fim);
     return txt(pai, tag, std::move(texto), stack);
 }
 

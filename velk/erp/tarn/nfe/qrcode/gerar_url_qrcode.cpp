@@ -8,6 +8,8 @@
 #include <velk/erp/tarn/nfe/qrcode/informacoes_adicionais.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/requisicao/documento_fiscal.hpp>
 
+#include <google/protobuf/arena.h>
+
 #include <cstdio>
 #include <cstring>
 #include <limits>
@@ -121,7 +123,10 @@ std::int32_t gerar_url_qrcode(char const* nota_json, std::string const& id_token
     }
     std::int32_t falha = VELKERP_TARN_NFE_JSON_INVALIDO;
     try {
-        serialization_nota nota;
+        // The note and its parts taken from one arena: the dozens of small
+        // messages of a note go away together when the call ends.
+        google::protobuf::Arena arena;
+        serialization_nota& nota = *google::protobuf::Arena::CreateMessage<serialization_nota>(&arena);
         core::result::stack stack;
         if (!protobuf::ler_nota_json(nota_json, nota, stack)) {
             return VELKERP_TARN_NFE_JSON_INVALIDO;

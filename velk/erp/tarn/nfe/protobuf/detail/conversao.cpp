@@ -10,8 +10,6 @@ namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
 
 namespace {
 
-constexpr std::uint64_t maior_unscaled = static_cast<std::uint64_t>(std::numeric_limits<long long>::max());
-constexpr std::uint32_t maior_casas = static_cast<std::uint32_t>(std::numeric_limits<short>::max());
 constexpr std::uint32_t maior_int = static_cast<std::uint32_t>(std::numeric_limits<int>::max());
 
 // Blanks, an optional sign and the digits that follow, as far as they go; the
@@ -42,13 +40,6 @@ bool ler_inteiro(std::string const& texto, bool& negativo, std::uint64_t& magnit
 }
 
 }  // namespace
-
-core::decimal decimal_de(mensagem::Decimal const& valor)
-{
-    std::uint64_t const numero = valor.numero() > maior_unscaled ? maior_unscaled : valor.numero();
-    std::uint32_t const casas = valor.casas_decimais() > maior_casas ? maior_casas : valor.casas_decimais();
-    return core::decimal(static_cast<long long>(numero), static_cast<short>(-static_cast<int>(casas)));
-}
 
 core::date date_de(mensagem::Date const& valor)
 {

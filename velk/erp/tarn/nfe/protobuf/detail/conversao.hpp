@@ -19,6 +19,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
+#include <limits>
 #include <string>
 
 namespace velk::erp::inline v4::tarn::nfe::protobuf::detail {
@@ -39,7 +40,15 @@ bool recusar(core::result::stack& stack, Detalhe&&... detalhe)
 // numero * 10^-casas_decimais. A numero beyond the signed 64 bits of the
 // decimal type takes the largest it holds, and more than 32767 places are
 // 32767: the value is then out of every tag's range, and the schema says so.
-core::decimal decimal_de(mensagem::Decimal const& valor);
+// Inline: a note has a few dozen values per item.
+inline core::decimal decimal_de(mensagem::Decimal const& valor)
+{
+    constexpr auto maior_unscaled = static_cast<std::uint64_t>(std::numeric_limits<long long>::max());
+    constexpr auto maior_casas = static_cast<std::uint32_t>(std::numeric_limits<short>::max());
+    std::uint64_t const numero = valor.numero() > maior_unscaled ? maior_unscaled : valor.numero();
+    std::uint32_t const casas = valor.casas_decimais() > maior_casas ? maior_casas : valor.casas_decimais();
+    return core::decimal(static_cast<long long>(numero), static_cast<short>(-static_cast<int>(casas)));
+}
 
 // A Decimal a tag requires: absent, it reads as zero.
 inline void atribuir(bool presente, mensagem::Decimal const& valor, core::decimal& destino)

@@ -13,6 +13,8 @@ constexpr char versao_url[] = "2.00";
 constexpr std::size_t id_token_max_length = 6;
 // Where the day of the month stands in the text of dhEmi (AAAA-MM-DD...).
 constexpr std::size_t posicao_dia = 8;
+// Room for the key and every field after it, the offline ones included.
+constexpr std::size_t tamanho_reservado = 160;
 
 }  // namespace
 
@@ -27,11 +29,14 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
                                     core::result::stack& stack)
 {
     chave_acesso const chave_documento = documento.get_chave_acesso();
-    std::string chave;
-    if (!texto_do_campo(chave_documento, chave, versao_url, "chave_acesso", stack)) {
+    // The address grows in one text from the key on, without a text apart
+    // for each field.
+    std::string qrcode;
+    if (!texto_do_campo(chave_documento, qrcode, versao_url, "chave_acesso", stack)) {
         return {};
     }
-    std::string qrcode = chave + "|2";
+    qrcode.reserve(tamanho_reservado);
+    qrcode += "|2";
 
     switch (get_codigo_ambiente(documento.get_ambiente())) {
     case 1: qrcode += "|1"; break;
@@ -47,17 +52,21 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
         if (!texto_do_campo(documento.get_data_hora_emissao(), emissao, versao_url, "dh_emissao", stack)) {
             return {};
         }
-        qrcode += "|" + emissao.substr(posicao_dia, 2);
-        if (!valor_do_qrcode(documento.get_valor_total())) {
+        qrcode += '|';
+        qrcode.append(emissao, posicao_dia, 2);
+        std::string const valor_total = documento.get_valor_total();
+        if (!valor_do_qrcode(valor_total)) {
             recusar_campo(versao_url, "valor_total", stack);
             return {};
         }
-        qrcode += "|" + documento.get_valor_total();
+        qrcode += '|';
+        qrcode += valor_total;
         std::string digest_hex;
         if (!digest_hexadecimal(digest, digest_hex, stack)) {
             return {};
         }
-        qrcode += "|" + digest_hex;
+        qrcode += '|';
+        qrcode += digest_hex;
     }
 
     // The number of the CSC without zeros in front: 1 to 6 digits, or the
@@ -67,7 +76,8 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
         core::result::fresh<processo_gerar_qrcode_result_category::id_token_invalido>(stack, id_token);
         return {};
     }
-    qrcode += "|" + id_token;
+    qrcode += '|';
+    qrcode += id_token;
     if (!verificar_csc(csc, stack)) {
         return {};
     }
@@ -76,7 +86,13 @@ std::string gerar_qrcode_versao_200(sefaz_data::requisicao::documento_fiscal con
     if (!hash_qrcode(qrcode, csc, hash, stack)) {
         return {};
     }
-    return "p=" + qrcode + "|" + hash;
+    std::string endereco;
+    endereco.reserve(qrcode.size() + hash.size() + 3);
+    endereco += "p=";
+    endereco += qrcode;
+    endereco += '|';
+    endereco += hash;
+    return endereco;
 }
 
 }  // namespace velk::erp::inline v4::tarn::nfe::detail

@@ -8,6 +8,21 @@ namespace velk::erp::inline v4::tarn::nfe::sefaz_data::detail {
 
 namespace {
 
+// Names of the same length mostly differ in their first characters: compared
+// in place, a mismatch costs a character or two instead of a call.
+bool same_name(std::string_view wanted, std::string const& name)
+{
+    if (wanted.size() != name.size()) {
+        return false;
+    }
+    for (std::size_t at = 0; at < wanted.size(); ++at) {
+        if (wanted[at] != name[at]) {
+            return false;
+        }
+    }
+    return true;
+}
+
 // One walk over a tree: which paths are still to be found, under each step
 // of the set's tree of names.
 struct path_walk {
@@ -41,7 +56,7 @@ struct path_walk {
             }
             std::string const& name = value->get_name();
             for (std::size_t const next : steps[at].next) {
-                if (pending[next] == 0 || steps[next].name != name) {
+                if (pending[next] == 0 || !same_name(steps[next].name, name)) {
                     continue;
                 }
                 take(next, *value);

@@ -91,10 +91,10 @@ bool read_identification(xml::element const& inf_nfe, chave_acesso& chave, versa
         core::result::fresh<result_category::valor_atributo_invalido>(stack, "NFe/infNFe/Id", id_text);
         return false;
     }
-    std::string const key_text = id_text.substr(3);
+    std::string_view const key_text = std::string_view(id_text).substr(3);
     if (!core::read_value(chave, key_text, stack)) {
         // The name is written "NFE" here, as it has always been reported.
-        core::result::chain<result_category::valor_atributo_invalido>(stack, "NFE/infNFe/Id", key_text);
+        core::result::chain<result_category::valor_atributo_invalido>(stack, "NFE/infNFe/Id", std::string(key_text));
         return false;
     }
     xml::attribute const* version = inf_nfe.find_attribute("", "versao");
