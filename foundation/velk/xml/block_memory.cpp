@@ -1,7 +1,5 @@
 #include <velk/xml/block_memory.hpp>
 
-#include <algorithm>
-#include <cstdlib>
 #include <new>
 
 namespace velk::xml {
@@ -20,14 +18,12 @@ struct block_memory_release {
         block_memory::shelves& kept = block_memory::kept_;
         kept.open = false;
         kept.closed = true;
-        for (std::size_t shelf = 0; shelf < block_memory::shelf_count; ++shelf) {
-            for (std::size_t index = 0; index < kept.count[shelf]; ++index) {
-                ::operator delete(kept.slots[shelf][index]);
+        for (block_memory::free_block*& first : kept.first) {
+            while (first != nullptr) {
+                block_memory::free_block* const next = first->next;
+                ::operator delete(first);
+                first = next;
             }
-            std::free(kept.slots[shelf]);
-            kept.slots[shelf] = nullptr;
-            kept.count[shelf] = 0;
-            kept.room[shelf] = 0;
         }
         kept.kept_bytes = 0;
     }
@@ -61,25 +57,12 @@ void block_memory::give_back(void* block, std::size_t size) noexcept
         return;
     }
     // The thread's first piece kept: touching the releaser makes the thread
-    // release what it keeps when it ends.
-    if (!mine.open) {
-        static_cast<void>(&releaser);
-        mine.open = true;
-    }
-    // A full stack grows to hold what the limit lets the shelf keep at most,
-    // in steps; when it cannot, the piece goes back.
-    if (mine.count[shelf] == mine.room[shelf]) {
-        std::size_t const most = kept_bytes_limit / bytes;
-        std::size_t const room = std::min(most, std::max<std::size_t>(256, mine.room[shelf] * 2));
-        auto* const larger = static_cast<void**>(std::realloc(mine.slots[shelf], room * sizeof(void*)));
-        if (larger == nullptr) {
-            ::operator delete(block);
-            return;
-        }
-        mine.slots[shelf] = larger;
-        mine.room[shelf] = room;
-    }
-    mine.slots[shelf][mine.count[shelf]++] = block;
+    // release what it keeps when it ends. Every later piece is kept inline.
+    static_cast<void>(&releaser);
+    mine.open = true;
+    auto* const freed = static_cast<free_block*>(block);
+    freed->next = mine.first[shelf];
+    mine.first[shelf] = freed;
     mine.kept_bytes += bytes;
 }
 

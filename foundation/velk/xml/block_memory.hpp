@@ -25,10 +25,10 @@ public:
         std::size_t const shelf = shelf_of(size);
         if (keep_pieces && shelf < shelf_count) {
             shelves& mine = kept_;
-            if (std::size_t const count = mine.count[shelf]; count != 0) {
-                mine.count[shelf] = count - 1;
+            if (free_block* const block = mine.first[shelf]) {
+                mine.first[shelf] = block->next;
                 mine.kept_bytes -= (shelf + 1) * step;
-                return mine.slots[shelf][count - 1];
+                return block;
             }
         }
         return take_new(size);
@@ -41,10 +41,10 @@ public:
         if (keep_pieces && shelf < shelf_count && block != nullptr) {
             shelves& mine = kept_;
             std::size_t const bytes = (shelf + 1) * step;
-            std::size_t const count = mine.count[shelf];
-            if (count < mine.room[shelf] && mine.kept_bytes + bytes <= kept_bytes_limit) {
-                mine.slots[shelf][count] = block;
-                mine.count[shelf] = count + 1;
+            if (mine.open && mine.kept_bytes + bytes <= kept_bytes_limit) {
+                auto* const freed = static_cast<free_block*>(block);
+                freed->next = mine.first[shelf];
+                mine.first[shelf] = freed;
                 mine.kept_bytes += bytes;
                 return;
             }
@@ -74,20 +74,14 @@ private:
     static constexpr bool keep_pieces = true;
 #endif
 
+    struct free_block {
+        free_block* next;
+    };
+
     // Plain data, so that it lives as long as the thread's storage and may be
     // reached from any destructor that runs while the thread ends.
-    //
-    // Each shelf is a stack of the pieces' addresses, not a list threaded
-    // through the pieces: taking one reads the stack, which is in cache,
-    // instead of the piece itself, which the last tree's destruction left
-    // anywhere. The pieces taken one after another are then fetched side by
-    // side, not each after the one before.
     struct shelves {
-        std::array<void**, shelf_count> slots;
-        std::array<std::size_t, shelf_count> count;
-        // The addresses each stack holds at most; none before the thread
-        // keeps its first piece, and none once the release has run.
-        std::array<std::size_t, shelf_count> room;
+        std::array<free_block*, shelf_count> first;
         std::size_t kept_bytes;
         // Whether pieces given back may be kept: once the release at the
         // thread's end is set up, and until it has run.
@@ -103,8 +97,7 @@ private:
     // serves any size of its shelf later.
     static void* take_new(std::size_t size);
     // What give does not keep inline: the first piece of a thread, which sets
-    // up the release, a piece that finds its stack full, which grows it, and
-    // pieces that go back to the allocator.
+    // up the release, and pieces that go back to the allocator.
     static void give_back(void* block, std::size_t size) noexcept;
 
     friend struct block_memory_release;
