@@ -159,14 +159,6 @@ element::impl::impl(std::string_view name) : qualified_name(name)
     }
 }
 
-std::string_view element::impl::prefix() const
-{
-    if (prefixed_local_name == nullptr) {
-        return {};
-    }
-    return std::string_view(qualified_name).substr(0, qualified_name.size() - prefixed_local_name->size() - 1);
-}
-
 std::string const& element::impl::uri() const
 {
     return namespace_uri == nullptr ? no_uri : *namespace_uri;

@@ -51,8 +51,15 @@ struct element::impl {
 
     // Sets both names from the name as written ("soap:Body").
     void set_name(std::string name);
-    // The prefix as a view into the qualified name; empty when none.
-    std::string_view prefix() const;
+    // The prefix as a view into the qualified name; empty when none. Inline:
+    // every element appended compares its prefix with its parent's.
+    std::string_view prefix() const
+    {
+        if (prefixed_local_name == nullptr) {
+            return {};
+        }
+        return std::string_view(qualified_name).substr(0, qualified_name.size() - prefixed_local_name->size() - 1);
+    }
     std::string const& local_name() const { return prefixed_local_name ? *prefixed_local_name : qualified_name; }
     std::string const& uri() const;
     extras& more_or_new();

@@ -150,6 +150,35 @@ TEST(document_save, refuses_a_missing_root_and_bad_names)
     EXPECT_EQ(*report.top().find_argument("name"), "relative");
 }
 
+// The colon of a name is looked for a word at a time: at every length about
+// a word, with the colon (or two) at each place, the split is the one the
+// first colon makes, for the free functions and an element alike.
+TEST(xml_names, a_name_splits_at_its_first_colon_at_any_length)
+{
+    for (std::size_t length = 0; length <= 24; ++length) {
+        for (std::size_t at = 0; at <= length; ++at) {
+            for (bool const second : {false, true}) {
+                std::string name(length, 'a');
+                if (at < length) {
+                    name[at] = ':';
+                }
+                if (second && length != 0) {
+                    name[length - 1] = ':';
+                }
+                SCOPED_TRACE(name);
+                std::size_t const colon = name.find(':');
+                std::string const prefix = colon == std::string::npos ? "" : name.substr(0, colon);
+                std::string const local = colon == std::string::npos ? name : name.substr(colon + 1);
+                EXPECT_EQ(velk::xml::prefix_of(name), prefix);
+                EXPECT_EQ(velk::xml::local_part_of(name), local);
+                velk::xml::element const made(name);
+                EXPECT_EQ(made.get_prefix(), prefix);
+                EXPECT_EQ(made.get_name(), local);
+            }
+        }
+    }
+}
+
 // One rule for names, whoever asks: the parser reading a document, save
 // writing one, an attribute being added, and those who write the tree some
 // other way (the canonical form of a signature) through is_qualified_name.

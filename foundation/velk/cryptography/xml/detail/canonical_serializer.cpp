@@ -8,8 +8,11 @@
 
 #include <libxml/uri.h>
 
+#include <emmintrin.h>
+
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace velk::cryptography {
 inline namespace v3 {
@@ -80,6 +83,47 @@ bool is_element_name(std::string const& name)
         }
     }
     return velk::xml::is_qualified_name(name);
+}
+
+// The pieces below are copied and checked 16 bytes at a time. A string holds
+// its capacity and a terminator, never fewer than 16 bytes: a load of 16 from
+// its start reads only its own memory, and the bytes past its end are masked
+// off. The output has room for the 16 written past what is committed.
+constexpr std::size_t lane = 16;
+
+[[gnu::always_inline]] inline bool readable_in_one_load(std::string const& text)
+{
+    return text.capacity() + 1 >= lane;
+}
+
+[[gnu::always_inline]] inline unsigned bits_below(std::size_t size)
+{
+    return size >= lane ? 0xFFFFu : (1u << size) - 1;
+}
+
+[[gnu::always_inline]] inline __m128i between(__m128i bytes, char low, char high)
+{
+    return _mm_and_si128(_mm_cmpgt_epi8(bytes, _mm_set1_epi8(static_cast<char>(low - 1))),
+                         _mm_cmpgt_epi8(_mm_set1_epi8(static_cast<char>(high + 1)), bytes));
+}
+
+// The bytes of the lane that are no ASCII name character (name_inside).
+[[gnu::always_inline]] inline unsigned not_name_bytes(__m128i bytes)
+{
+    __m128i const good = _mm_or_si128(
+        _mm_or_si128(_mm_or_si128(between(bytes, 'A', 'Z'), between(bytes, 'a', 'z')), between(bytes, '0', '9')),
+        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('_')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('-'))),
+                     _mm_cmpeq_epi8(bytes, _mm_set1_epi8('.'))));
+    return ~static_cast<unsigned>(_mm_movemask_epi8(good)) & 0xFFFFu;
+}
+
+// The bytes of the lane a text escapes.
+[[gnu::always_inline]] inline unsigned text_escape_bytes(__m128i bytes)
+{
+    __m128i const found =
+        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('&')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('<'))),
+                     _mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('>')), _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\r'))));
+    return static_cast<unsigned>(_mm_movemask_epi8(found));
 }
 
 std::string_view escape_of(char c)
@@ -325,29 +369,46 @@ bool canonical_serializer::write_element(velk::xml::element const& value)
 [[gnu::always_inline]] inline char* canonical_serializer::open_plain_tag(std::string const& name, std::size_t room)
 {
     std::size_t const size = name.size();
-    char* position = out_.reserve(size + 2 + room);
+    char* position = out_.reserve(size + 2 + room + lane);
     *position++ = '<';
-    // The name copied and checked in one pass, as is_element_name checks it
-    // (the first character read as the string's terminator when empty).
     char const* const source = name.data();
-    unsigned valid = name_kinds[static_cast<unsigned char>(source[0])] >> 1;
-    for (std::size_t index = 0; index < size; ++index) {
-        position[index] = source[index];
-        valid &= name_kinds[static_cast<unsigned char>(source[index])];
-    }
-    if (valid == 0 && !accept_name(name)) {
-        return nullptr;
+    if (size <= lane && readable_in_one_load(name)) {
+        // Nearly every name: copied and checked in one lane.
+        __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(source));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(position), bytes);
+        bool const plain = size != 0 && (name_kinds[static_cast<unsigned char>(source[0])] & name_start) != 0 &&
+                           (not_name_bytes(bytes) & bits_below(size)) == 0;
+        if (!plain && !accept_name(name)) {
+            return nullptr;
+        }
+    } else {
+        // The name copied and checked in one pass, as is_element_name checks
+        // it (the first character read as the string's terminator when empty).
+        unsigned valid = name_kinds[static_cast<unsigned char>(source[0])] >> 1;
+        for (std::size_t index = 0; index < size; ++index) {
+            position[index] = source[index];
+            valid &= name_kinds[static_cast<unsigned char>(source[index])];
+        }
+        if (valid == 0 && !accept_name(name)) {
+            return nullptr;
+        }
     }
     position += size;
     *position++ = '>';
     return position;
 }
 
+// Needs `lane` bytes of room past the tag.
 [[gnu::always_inline]] inline char* canonical_serializer::close_tag(char* position, std::string const& name)
 {
     *position++ = '<';
     *position++ = '/';
-    buffer::copy(position, name.data(), name.size());
+    if (name.size() <= lane && readable_in_one_load(name)) {
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(position),
+                         _mm_loadu_si128(reinterpret_cast<__m128i const*>(name.data())));
+    } else {
+        buffer::copy(position, name.data(), name.size());
+    }
     position += name.size();
     *position++ = '>';
     return position;
@@ -364,31 +425,55 @@ bool canonical_serializer::write_plain_element(velk::xml::element const& value)
     if (!write_children(value)) {
         return false;
     }
-    out_.commit(close_tag(out_.reserve(name.size() + 3), name));
+    out_.commit(close_tag(out_.reserve(name.size() + 3 + lane), name));
     flush_if_full();
     return true;
 }
+
+namespace {
+
+// Copies the text up to its first byte to escape, and gives how many bytes
+// that is (all of them when none); writes up to a lane past them.
+[[gnu::always_inline]] inline std::size_t copy_until_escape(char* target, std::string const& text)
+{
+    std::size_t const size = text.size();
+    std::size_t const readable = text.capacity() + 1;
+    char const* const source = text.data();
+    std::size_t index = 0;
+    while (index < size && readable - index >= lane) {
+        __m128i const bytes = _mm_loadu_si128(reinterpret_cast<__m128i const*>(source + index));
+        _mm_storeu_si128(reinterpret_cast<__m128i*>(target + index), bytes);
+        unsigned const found = text_escape_bytes(bytes) & bits_below(size - index);
+        if (found != 0) {
+            return index + static_cast<std::size_t>(std::countr_zero(found));
+        }
+        index += lane;
+    }
+    while (index < size && (escapes[static_cast<unsigned char>(source[index])] & in_text) == 0) {
+        target[index] = source[index];
+        ++index;
+    }
+    return std::min(index, size);
+}
+
+}  // namespace
 
 // Most elements of a document are bare ones holding one text: written here
 // whole, in one room of the buffer, without a walk of their children.
 [[gnu::always_inline]] inline bool canonical_serializer::write_plain_leaf(std::string const& name,
                                                                        std::string const& contents)
 {
-    char* position = open_plain_tag(name, contents.size() + name.size() + 3);
+    char* position = open_plain_tag(name, contents.size() + name.size() + 3 + lane);
     if (position == nullptr) {
         return false;
     }
-    std::size_t index = 0;
     std::size_t const size = contents.size();
-    while (index < size && (escapes[static_cast<unsigned char>(contents[index])] & in_text) == 0) {
-        position[index] = contents[index];
-        ++index;
-    }
+    std::size_t const index = copy_until_escape(position, contents);
     position += index;
     if (index < size) {
         out_.commit(position);
         write_escaped(std::string_view(contents).substr(index), in_text);
-        position = out_.reserve(name.size() + 3);
+        position = out_.reserve(name.size() + 3 + lane);
     }
     out_.commit(close_tag(position, name));
     flush_if_full();
@@ -478,7 +563,17 @@ bool canonical_serializer::write_children(velk::xml::element const& value)
     // The children straight from the tree's list: this loop runs for every
     // element of the document.
     using access = velk::xml::detail::element_access;
-    for (velk::xml::node const& child : access::contents(value)->children) {
+    velk::xml::node_list const& children = access::contents(value)->children;
+    for (auto position = children.begin(); position != children.end(); ++position) {
+        velk::xml::node const& child = *position;
+        // The walk is bound by the wait for each child's contents, which lie
+        // wherever the tree took them from: the next sibling's are asked for
+        // while this one is written.
+        if (auto const following = std::next(position); following != children.end()) {
+            if (velk::xml::element const* next = following->as_element()) {
+                __builtin_prefetch(access::contents(*next));
+            }
+        }
         if (velk::xml::element const* nested = child.as_element()) {
             if (nested == excluded_) {
                 continue;

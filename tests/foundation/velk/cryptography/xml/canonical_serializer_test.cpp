@@ -8,6 +8,7 @@
 #include <support/forma_canonica.hpp>
 #include <support/xml_text.hpp>
 #include <velk/xml/node.hpp>
+#include <velk/xml/qualified_name.hpp>
 
 #include <gtest/gtest.h>
 
@@ -187,6 +188,44 @@ TEST(canonical_serializer, writes_a_replacement_in_place_of_the_children)
                                  [&canonical](std::string_view piece) { canonical.append(piece); }, stack));
     EXPECT_EQ(canonical, "<SignedInfo xmlns=\"http://www.w3.org/2000/09/xmldsig#\"><Reference URI=\"#A\">"
                          "<DigestValue>a&amp;b&lt;c&gt;</DigestValue></Reference></SignedInfo>");
+}
+
+// Names and texts are copied and checked a lane of 16 bytes at a time where
+// they fit and byte by byte where not: every length about the lane, with a
+// byte to escape or a character no name takes at each place, goes out alike.
+TEST(canonical_serializer, writes_names_and_texts_of_every_length_alike)
+{
+    std::string const name_characters = "abcdefghij-KLMNOPQRST.uvwxyz_0123456789abcdefghij";
+    std::string const escaped = "&<>\r";
+    velk::xml::element root("r");
+    for (std::size_t length = 1; length <= 40; ++length) {
+        std::string const name = name_characters.substr(0, length);
+        velk::xml::element wrapper(name);
+        for (std::size_t at : {length, std::size_t{0}, length / 2, length - 1}) {
+            std::string contents(length, 'x');
+            if (at < length) {
+                contents[at] = escaped[(length + at) % escaped.size()];
+            }
+            wrapper.append_node(velk::xml::element(name, velk::xml::text(contents)));
+        }
+        wrapper.append_node(velk::xml::element(name, velk::xml::text("")));
+        root.append_node(std::move(wrapper));
+    }
+    expect_same_as_libxml2(root);
+
+    for (std::size_t length = 1; length <= 20; ++length) {
+        for (std::size_t at = 0; at < length; ++at) {
+            for (char const odd : {' ', '$', '9', '-', ':', '\xC3'}) {
+                std::string name = name_characters.substr(0, length);
+                name[at] = odd;
+                SCOPED_TRACE(name);
+                core::result::stack stack;
+                detail::canonical_serializer serializer;
+                bool const written = serializer.write({{}, velk::xml::element(name)}, [](std::string_view) {}, stack);
+                EXPECT_EQ(written, velk::xml::is_qualified_name(name));
+            }
+        }
+    }
 }
 
 // A large document goes out in pieces, and the pieces make the whole.
