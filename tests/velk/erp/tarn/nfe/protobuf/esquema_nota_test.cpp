@@ -117,6 +117,25 @@ std::vector<arquivo> const arquivos = {
     {"NotaFiscal", {"DateTime.proto", "Produto.proto", "TotaisNFe.proto", "TotalNFe.proto", "Destinatario.proto", "Emitente.proto", "InformacoesAdicionais.proto", "InformacoesPagamento.proto", "InformacoesTransporte.proto", "IdentificacaoLocalRetirada.proto", "IdentificacaoLocalEntrega.proto", "InformacoesResponsavelTecnico.proto", "InformacoesIntermediador.proto", "google/protobuf/wrappers.proto"}},
 };
 
+// The totals of the note, the deprecated group and the one under TotalNFe, and
+// the places of pick-up and delivery, have the same fields.
+char const* const totais =
+    "1 seguro Decimal, 2 desonerado Decimal, 3 ipi Decimal, 4 imposto_importacao Decimal, "
+    "5 nota Decimal, 6 tributos_item Decimal, 7 base_st Decimal, 8 base_normal Decimal, "
+    "9 icms_normal Decimal, 10 produtos Decimal, 11 retido Decimal, 12 despesas_acessorias Decimal, "
+    "13 frete Decimal, 14 desconto Decimal, 15 impostos_pis Decimal, 16 impostos_cofins Decimal, "
+    "17 fecop Decimal, 18 fcp Decimal, 19 icms_destino Decimal, 20 icms_remetente Decimal, "
+    "21 fcp_st_retido Decimal, 22 fcp_st_retido_anteriormente Decimal, 23 icms_fcp_destino Decimal, "
+    "24 ipi_devolvido Decimal";
+char const* const locais =
+    "1 cnpj uint64, 2 cpf uint64, 3 nome_expedidor google.protobuf.StringValue, "
+    "4 logradouro google.protobuf.StringValue, 5 numero google.protobuf.StringValue, "
+    "6 complemento google.protobuf.StringValue, 7 bairro google.protobuf.StringValue, "
+    "8 codigo_municipio uint32, 9 nome_municinio google.protobuf.StringValue, "
+    "10 sigla_uf google.protobuf.StringValue, 11 cep uint64, 12 codigo_pais uint32, "
+    "13 nome_pais google.protobuf.StringValue, 14 telefone uint64, 15 email google.protobuf.StringValue, "
+    "16 inscricao_estadual uint64";
+
 std::vector<mensagem> const mensagens = {
     {"Date", "1 day uint32, 2 month uint32, 3 year uint32"},
     {"Time", "1 hour uint32, 2 minute uint32, 3 seconds uint32, 4 miliseconds uint32"},
@@ -309,22 +328,8 @@ std::vector<mensagem> const mensagens = {
      "39 tributacao_pis_cofins TributacaoPISCofins, "
      "40 grupo_detalhamento_combustivel GrupoDetalhamentoCombustivel oneof GrupoDetalhamento, "
      "41 tributos_devolvidos TributosDevolvidos, 42 codigo_beneficio_fiscal google.protobuf.StringValue"},
-    {"TotaisNFe",
-     "1 seguro Decimal, 2 desonerado Decimal, 3 ipi Decimal, 4 imposto_importacao Decimal, "
-     "5 nota Decimal, 6 tributos_item Decimal, 7 base_st Decimal, 8 base_normal Decimal, "
-     "9 icms_normal Decimal, 10 produtos Decimal, 11 retido Decimal, 12 despesas_acessorias Decimal, "
-     "13 frete Decimal, 14 desconto Decimal, 15 impostos_pis Decimal, 16 impostos_cofins Decimal, "
-     "17 fecop Decimal, 18 fcp Decimal, 19 icms_destino Decimal, 20 icms_remetente Decimal, "
-     "21 fcp_st_retido Decimal, 22 fcp_st_retido_anteriormente Decimal, 23 icms_fcp_destino Decimal, "
-     "24 ipi_devolvido Decimal"},
-    {"TotalNFeICMS",
-     "1 seguro Decimal, 2 desonerado Decimal, 3 ipi Decimal, 4 imposto_importacao Decimal, "
-     "5 nota Decimal, 6 tributos_item Decimal, 7 base_st Decimal, 8 base_normal Decimal, "
-     "9 icms_normal Decimal, 10 produtos Decimal, 11 retido Decimal, 12 despesas_acessorias Decimal, "
-     "13 frete Decimal, 14 desconto Decimal, 15 impostos_pis Decimal, 16 impostos_cofins Decimal, "
-     "17 fecop Decimal, 18 fcp Decimal, 19 icms_destino Decimal, 20 icms_remetente Decimal, "
-     "21 fcp_st_retido Decimal, 22 fcp_st_retido_anteriormente Decimal, 23 icms_fcp_destino Decimal, "
-     "24 ipi_devolvido Decimal"},
+    {"TotaisNFe", totais},
+    {"TotalNFeICMS", totais},
     {"TotalNFeISSQN",
      "1 valor_servico Decimal, 2 bc Decimal, 3 iss Decimal, 4 pis Decimal, 5 cofins Decimal, "
      "6 prestacao_servico Date, 7 iss_retido Decimal"},
@@ -349,22 +354,8 @@ std::vector<mensagem> const mensagens = {
     {"InformacoesTransporte",
      "1 modalidade InformacoesTransporte.ModalidadeFrete, 2 volumes Volumes repeated, "
      "3 grupo_transportador GrupoTransportador"},
-    {"IdentificacaoLocalRetirada",
-     "1 cnpj uint64, 2 cpf uint64, 3 nome_expedidor google.protobuf.StringValue, "
-     "4 logradouro google.protobuf.StringValue, 5 numero google.protobuf.StringValue, "
-     "6 complemento google.protobuf.StringValue, 7 bairro google.protobuf.StringValue, "
-     "8 codigo_municipio uint32, 9 nome_municinio google.protobuf.StringValue, "
-     "10 sigla_uf google.protobuf.StringValue, 11 cep uint64, 12 codigo_pais uint32, "
-     "13 nome_pais google.protobuf.StringValue, 14 telefone uint64, 15 email google.protobuf.StringValue, "
-     "16 inscricao_estadual uint64"},
-    {"IdentificacaoLocalEntrega",
-     "1 cnpj uint64, 2 cpf uint64, 3 nome_expedidor google.protobuf.StringValue, "
-     "4 logradouro google.protobuf.StringValue, 5 numero google.protobuf.StringValue, "
-     "6 complemento google.protobuf.StringValue, 7 bairro google.protobuf.StringValue, "
-     "8 codigo_municipio uint32, 9 nome_municinio google.protobuf.StringValue, "
-     "10 sigla_uf google.protobuf.StringValue, 11 cep uint64, 12 codigo_pais uint32, "
-     "13 nome_pais google.protobuf.StringValue, 14 telefone uint64, 15 email google.protobuf.StringValue, "
-     "16 inscricao_estadual uint64"},
+    {"IdentificacaoLocalRetirada", locais},
+    {"IdentificacaoLocalEntrega", locais},
     {"InformacoesCodigoSeguranca", "1 identificador_csrt uint32, 2 hash_csrt string"},
     {"InformacoesResponsavelTecnico",
      "1 cnpj string, 2 nome_pessoa_a_ser_contatada string, 3 email string, 4 telefone string, "
