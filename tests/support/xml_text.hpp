@@ -55,6 +55,13 @@ inline std::string saved_text(xml::element const& root)
     return saved_text(document_of(root));
 }
 
+// The saved text of the element alone, without the XML declaration.
+inline std::string element_text(xml::element const& root)
+{
+    std::string const text = saved_text(root);
+    return text.substr(text.find('\n') + 1);
+}
+
 // The names of the element's child elements, in order.
 inline std::vector<std::string> child_element_names(xml::element const& parent)
 {

@@ -61,12 +61,6 @@ std::string digits(unsigned value, int width)
 
 }  // namespace
 
-std::string element_text(xml::element const& root)
-{
-    std::string const text = saved_text(root);
-    return text.substr(text.find('\n') + 1);
-}
-
 std::string signed_element(xml::element root, std::string const& id)
 {
     core::result::stack stack;

@@ -5,6 +5,7 @@
 // schemas, and requests written by hand or from the test notes.
 
 #include <sefaz-sim/web_services.hpp>
+#include <support/xml_text.hpp>
 #include <velk/erp/fiscal/nota_fiscal.hpp>
 #include <velk/xml/element.hpp>
 
@@ -69,9 +70,8 @@ std::string signed_document(erp::fiscal::nota_fiscal const& nota);
 std::string nfe_number(unsigned number);
 std::string nfce_number(unsigned number);
 
-// The element as text, without the XML declaration; and signed by the test
-// taxpayer, its child of that Id.
-std::string element_text(xml::element const& root);
+// The element signed by the test taxpayer, its child of that Id, as text
+// without the XML declaration.
 std::string signed_element(xml::element root, std::string const& id);
 
 // The 44 digits of the Id of infNFe of a document's text, and the values

@@ -72,43 +72,27 @@ chave_acesso nfce_chave()
 // the report.
 using call = std::function<std::string(nfe::web_server_info const&)>;
 
-template <class Resposta>
-std::string outcome(Resposta const& resposta, stack const& s)
+template <class Service, class Make>
+call calling(Make make)
 {
-    return s.has_failed() ? report_line(s)
-                          : std::to_string(resposta.get_codigo_status()) + " " + resposta.get_motivo();
+    return [make](nfe::web_server_info const& info) {
+        stack s;
+        auto const r = ready<Service>().executar(make(), info, s);
+        return s.has_failed() ? report_line(s) : std::to_string(r.get_codigo_status()) + " " + r.get_motivo();
+    };
 }
 
-call const call_autorizacao = [](nfe::web_server_info const& info) {
-    stack s;
-    auto const r = ready<nfe::servico::autorizacao>().executar(signed_batch(), info, s);
-    return outcome(r, s);
-};
-call const call_consulta = [](nfe::web_server_info const& info) {
-    stack s;
-    auto const r = ready<nfe::servico::consulta>().executar(
-        requisicao::consulta::from_data(nfce_chave(), nfe::versao::versao_4_00, ambiente::homologacao), info, s);
-    return outcome(r, s);
-};
-call const call_consulta_recibo = [](nfe::web_server_info const& info) {
-    stack s;
-    auto const r = ready<nfe::servico::consulta_recibo>().executar(
-        requisicao::consulta_recibo::from_data(ambiente::homologacao, nfe::versao::versao_4_00, 351000000012345ULL,
-                                               estado::sp, modelo::nfe),
-        info, s);
-    return outcome(r, s);
-};
-call const call_inutilizacao = [](nfe::web_server_info const& info) {
-    stack s;
-    auto const r = ready<nfe::servico::inutilizacao>().executar(signed_disablement(), info, s);
-    return outcome(r, s);
-};
-call const call_consulta_gtin = [](nfe::web_server_info const& info) {
-    stack s;
-    auto const r =
-        ready<nfe::servico::consulta_gtin>().executar(requisicao::consulta_gtin::from_data("7894567002217"), info, s);
-    return outcome(r, s);
-};
+call const call_autorizacao = calling<nfe::servico::autorizacao>(signed_batch);
+call const call_consulta = calling<nfe::servico::consulta>([] {
+    return requisicao::consulta::from_data(nfce_chave(), nfe::versao::versao_4_00, ambiente::homologacao);
+});
+call const call_consulta_recibo = calling<nfe::servico::consulta_recibo>([] {
+    return requisicao::consulta_recibo::from_data(ambiente::homologacao, nfe::versao::versao_4_00, 351000000012345ULL,
+                                                  estado::sp, modelo::nfe);
+});
+call const call_inutilizacao = calling<nfe::servico::inutilizacao>(signed_disablement);
+call const call_consulta_gtin =
+    calling<nfe::servico::consulta_gtin>([] { return requisicao::consulta_gtin::from_data("7894567002217"); });
 
 // A real answer as the authorities send it: no blanks between the tags.
 std::string compact_sample(std::string const& file)

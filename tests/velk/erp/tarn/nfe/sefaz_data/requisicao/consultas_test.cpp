@@ -29,12 +29,6 @@ chave_acesso key()
     return value;
 }
 
-std::string text_of(velk::xml::element const& root)
-{
-    std::string const saved = velk::test::saved_text(root);
-    return saved.substr(saved.find('\n') + 1);
-}
-
 struct query_case {
     char const* name;
     std::function<velk::xml::element(stack&)> xml;
@@ -90,7 +84,7 @@ TEST(consultas, write_their_messages_in_order_and_by_the_schemas)
         stack s;
         velk::xml::element const root = current.xml(s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
-        EXPECT_EQ(text_of(root), current.expected);
+        EXPECT_EQ(velk::test::element_text(root), current.expected);
         if (*current.schema != '\0') {
             auto const problems = velk::test::validate_against_schema(velk::test::schema_dir() / current.schema, root);
             EXPECT_TRUE(problems.empty()) << problems.front();

@@ -22,12 +22,6 @@ using arguments = std::vector<std::pair<std::string, std::string>>;
 using manifestacao = manifestacao_destinatario::tipo_manifestacao;
 using destinatario = epec_nfe::destinatario;
 
-std::string text_of(velk::xml::element const& root)
-{
-    std::string const saved = velk::test::saved_text(root);
-    return saved.substr(saved.find('\n') + 1);
-}
-
 std::string det_evento(std::string const& children)
 {
     return "<detEvento versao=\"1.00\">" + children + "</detEvento>";
@@ -46,10 +40,10 @@ TEST(cancelamento, both_kinds_are_written_and_read_back)
     auto const substitution =
         cancelamento::from_data("Venda registrada em contingencia", 135240000000017, 35, "pdv 2.1", substitute, s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    EXPECT_EQ(text_of(ordinary.get_xml()),
+    EXPECT_EQ(velk::test::element_text(ordinary.get_xml()),
               det_evento("<descEvento>Cancelamento</descEvento><nProt>135150001686732</nProt>"
                          "<xJust>Desistencia do comprador</xJust>"));
-    EXPECT_EQ(text_of(substitution.get_xml()), det_evento(substitution_children));
+    EXPECT_EQ(velk::test::element_text(substitution.get_xml()), det_evento(substitution_children));
     EXPECT_EQ(ordinary.get_tipo_cancelamento(), tipo_cancelamento::normal);
     EXPECT_FALSE(ordinary.get_chave_acesso_substituta().has_value());
     EXPECT_EQ(substitution.get_tipo_cancelamento(), tipo_cancelamento::substituicao);
@@ -70,7 +64,7 @@ TEST(cancelamento, both_kinds_are_written_and_read_back)
     EXPECT_EQ(as_ordinary.get_protocolo_autorizacao(), 135240000000017u);
     EXPECT_FALSE(as_ordinary.get_codigo_orgao_autor().has_value());
     EXPECT_FALSE(as_ordinary.get_chave_acesso_substituta().has_value());
-    EXPECT_EQ(text_of(as_ordinary.get_xml()), det_evento(substitution_children)) << "the element is kept whole";
+    EXPECT_EQ(velk::test::element_text(as_ordinary.get_xml()), det_evento(substitution_children)) << "the element is kept whole";
 }
 
 struct refusal {
@@ -169,14 +163,14 @@ TEST(manifestacao_destinatario, justification_goes_out_only_where_the_type_takes
         stack s;
         auto const made = manifestacao_destinatario::from_data(each.tipo, each.justificativa, s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
-        EXPECT_EQ(text_of(made.get_xml()), det_evento(each.expected));
+        EXPECT_EQ(velk::test::element_text(made.get_xml()), det_evento(each.expected));
         EXPECT_EQ(made.get_tipo_manifestacao(), each.tipo);
         EXPECT_FALSE(made.get_justificativa().has_value()) << "from_data does not keep it";
 
         auto const read = manifestacao_destinatario::from_xml(made.get_xml(), each.tipo, s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
         EXPECT_EQ(read.get_justificativa().has_value(), each.expected.find("xJust") != std::string::npos);
-        EXPECT_EQ(text_of(read.get_xml()), det_evento(each.expected));
+        EXPECT_EQ(velk::test::element_text(read.get_xml()), det_evento(each.expected));
     }
     stack s;
     auto const read = manifestacao_destinatario::from_xml(
@@ -194,7 +188,7 @@ TEST(epec_nfe, writes_the_summary_and_reads_it_without_the_recipient)
                                               s);
     auto const made = epec_nfe::from_data(velk::erp::estado::sp, velk::test::momento_evento(), 0, "", dest, s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    EXPECT_EQ(text_of(made.get_xml()),
+    EXPECT_EQ(velk::test::element_text(made.get_xml()),
               det_evento("<descEvento>EPEC</descEvento><cOrgaoAutor>35</cOrgaoAutor><tpAutor>1</tpAutor>"
                          "<verAplic>4.0.0</verAplic><dhEmi>2024-02-01T14:07:05-03:00</dhEmi><tpNF>0</tpNF><IE></IE>"
                          "<dest><UF>RJ</UF><CPF>12345678909</CPF><vNF>19.99</vNF><vICMS>0.00</vICMS>"
@@ -207,7 +201,7 @@ TEST(epec_nfe, writes_the_summary_and_reads_it_without_the_recipient)
     EXPECT_EQ(read.get_ie(), "");
     EXPECT_EQ(read.get_destinatario().get_xml().get_name(), "") << "dest is not read";
 
-    std::string const without_dest = text_of(made.get_xml()).substr(0, text_of(made.get_xml()).find("<dest>"));
+    std::string const without_dest = velk::test::element_text(made.get_xml()).substr(0, velk::test::element_text(made.get_xml()).find("<dest>"));
     epec_nfe::from_xml(velk::test::parse_element(without_dest + "</detEvento>"), s);
     EXPECT_FALSE(s.has_failed()) << "no dest is no failure";
 
@@ -268,7 +262,7 @@ TEST(epec_nfe_destinatario, identification_and_totals_read_back)
 
     auto const made =
         destinatario::from_data(velk::erp::estado::sp, destinatario::id_estrangeiro{"AB12345"}, "ISENTO", {}, s);
-    EXPECT_EQ(text_of(made.get_xml()), "<dest><UF>SP</UF><idEstrangeiro>AB12345</idEstrangeiro><IE>ISENTO</IE>"
+    EXPECT_EQ(velk::test::element_text(made.get_xml()), "<dest><UF>SP</UF><idEstrangeiro>AB12345</idEstrangeiro><IE>ISENTO</IE>"
                                        "<vNF>0.00</vNF><vICMS>0.00</vICMS><vST>0.00</vST></dest>");
 }
 

@@ -26,13 +26,6 @@ using velk::erp::tarn::ambiente;
 using velk::test::saved_text;
 namespace sefaz_data = velk::erp::tarn::nfe::sefaz_data;
 
-// The text of a tree without the XML declaration.
-std::string text_of(velk::xml::element const& root)
-{
-    std::string const saved = saved_text(root);
-    return saved.substr(saved.find('\n') + 1);
-}
-
 velk::xml::element const& child(velk::xml::element const& parent, char const* name)
 {
     velk::xml::element const* found = parent.find_child(name);
@@ -234,7 +227,7 @@ TEST(evento, frame_of_each_payload)
         EXPECT_EQ(infevento_tag(each.value, "nSeqEvento"), each.sequencia);
         EXPECT_EQ(infevento_tag(each.value, "CNPJ"), each.value.get_chave_acesso().get_cnpj()) << "the issuer's";
     }
-    EXPECT_EQ(text_of(rows[0].value.get_xml()),
+    EXPECT_EQ(velk::test::element_text(rows[0].value.get_xml()),
               "<evento xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"1.00\">"
               "<infEvento Id=\"ID1101113515030082260200012455001000992346109923465601\"><cOrgao>35</cOrgao>"
               "<tpAmb>2</tpAmb><CNPJ>00822602000124</CNPJ><chNFe>35150300822602000124550010009923461099234656</chNFe>"
@@ -295,7 +288,7 @@ TEST(evento, signing_twice_keeps_one_valid_signature_last)
 TEST(evento, an_event_read_with_a_sequence_of_three_digits_is_not_signed)
 {
     stack s;
-    std::string text = text_of(velk::test::eventos_de_exemplo()[2].make(s).get_xml());
+    std::string text = velk::test::element_text(velk::test::eventos_de_exemplo()[2].make(s).get_xml());
     text.replace(text.find("<nSeqEvento>2<"), 14, "<nSeqEvento>100<");
     evento value = evento::from_xml(velk::test::parse_element(text), s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
@@ -314,7 +307,7 @@ TEST(evento, read_back_gives_the_same_tree_and_the_payload_of_its_type)
         evento const made = examples[index].make(s);
         evento const read = evento::from_xml(velk::test::document_of(made.get_xml()), s);
         ASSERT_FALSE(s.has_failed()) << s.to_string();
-        EXPECT_EQ(text_of(read.get_xml()), text_of(made.get_xml()));
+        EXPECT_EQ(velk::test::element_text(read.get_xml()), velk::test::element_text(made.get_xml()));
         EXPECT_EQ(read.get_informacoes_evento().index(), payload_index[index]);
         EXPECT_EQ(read.get_tipo_evento(), made.get_tipo_evento());
         EXPECT_EQ(read.get_sequencia(), made.get_sequencia());
@@ -326,7 +319,7 @@ TEST(evento, read_back_gives_the_same_tree_and_the_payload_of_its_type)
 TEST(evento, what_from_xml_refuses)
 {
     stack made_stack;
-    std::string const good = text_of(velk::test::eventos_de_exemplo()[0].make(made_stack).get_xml());
+    std::string const good = velk::test::element_text(velk::test::eventos_de_exemplo()[0].make(made_stack).get_xml());
     auto const without = [&good](std::string const& tag) {
         std::string text = good;
         std::size_t begin = text.find("<" + tag + ">");
@@ -379,7 +372,7 @@ TEST(lote_evento, envelope_of_the_events_in_order)
     stack s;
     auto const examples = velk::test::eventos_de_exemplo();
     lote_evento empty;
-    EXPECT_EQ(text_of(empty.get_xml(s)),
+    EXPECT_EQ(velk::test::element_text(empty.get_xml(s)),
               "<envEvento xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"1.00\"><idLote>0</idLote></envEvento>");
 
     lote_evento batch;

@@ -42,18 +42,12 @@ struct faixa {
     }
 };
 
-std::string text_of(velk::xml::element const& root)
-{
-    std::string const saved = velk::test::saved_text(root);
-    return saved.substr(saved.find('\n') + 1);
-}
-
 TEST(inutilizacao, writes_the_range_with_its_identifier)
 {
     stack s;
     inutilizacao const pedido = faixa{}.pedir(s);
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    EXPECT_EQ(text_of(pedido.get_xml()),
+    EXPECT_EQ(velk::test::element_text(pedido.get_xml()),
               "<inutNFe xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"4.00\">"
               "<infInut Id=\"ID35240000000000019155001000000010000000020\"><tpAmb>2</tpAmb><xServ>INUTILIZAR</xServ>"
               "<cUF>35</cUF><ano>24</ano><CNPJ>00000000000191</CNPJ><mod>55</mod><serie>1</serie>"
@@ -75,9 +69,9 @@ TEST(inutilizacao, writes_the_range_with_its_identifier)
     estranha.justificativa = "Inutilização ok";  // 15 characters, 17 bytes
     velk::xml::element const outra = estranha.pedir(s).get_xml();
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    EXPECT_NE(text_of(outra).find("<infInut Id=\"ID43240000000000019165001999999999000000001\"><tpAmb>1</tpAmb>"),
+    EXPECT_NE(velk::test::element_text(outra).find("<infInut Id=\"ID43240000000000019165001999999999000000001\"><tpAmb>1</tpAmb>"),
               std::string::npos)
-        << text_of(outra);
+        << velk::test::element_text(outra);
 }
 
 TEST(inutilizacao, signed_it_passes_the_schema_and_an_independent_verifier)

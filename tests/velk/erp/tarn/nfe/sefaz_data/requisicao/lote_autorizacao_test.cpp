@@ -20,12 +20,6 @@ using nfe::sefaz_data::requisicao::lote_autorizacao;
 using velk::core::result::stack;
 using velk::test::report_line;
 
-std::string text_of(velk::xml::element const& root)
-{
-    std::string const saved = velk::test::saved_text(root);
-    return saved.substr(saved.find('\n') + 1);
-}
-
 chave_acesso key_of(std::string const& text)
 {
     chave_acesso value;
@@ -55,7 +49,7 @@ TEST(lote_autorizacao, writes_only_what_the_layout_admits)
     documento_fiscal const nfce = velk::test::documento_assinado(velk::test::nota_nfce_simples());
     lote.append_documento_fiscal(nfce, s);
     lote.set_indicador_sincrono(false);
-    std::string const written = text_of(lote.get_xml(s));
+    std::string const written = velk::test::element_text(lote.get_xml(s));
     ASSERT_FALSE(s.has_failed()) << s.to_string();
     EXPECT_EQ(written.substr(0, written.find("<NFe")),
               "<enviNFe xmlns=\"http://www.portalfiscal.inf.br/nfe\" versao=\"4.00\"><idLote>0</idLote>"
