@@ -529,6 +529,16 @@ private:
     void fechar(std::size_t comeco, std::size_t reservados)
     {
         std::size_t tamanho = usado_ - comeco;
+        // The usual case: the length fits the bytes kept, one or two.
+        if (tamanho < 128 && reservados == 1) {
+            bytes_[comeco - 1] = static_cast<char>(tamanho);
+            return;
+        }
+        if (tamanho < 16384 && reservados == 2) {
+            bytes_[comeco - 2] = static_cast<char>(tamanho | 0x80);
+            bytes_[comeco - 1] = static_cast<char>(tamanho >> 7);
+            return;
+        }
         std::size_t largura = 1;
         while (largura < 10 && (tamanho >> (7 * largura)) != 0) {
             ++largura;
@@ -1187,6 +1197,21 @@ private:
     template <class T>
     bool inteiro_entre_aspas(campo_lido const& campo, char const* comeco)
     {
+        // Mostly digits only, as the 64-bit numbers of a note are written,
+        // and then the closing quote: read as they go, without the scan for
+        // the string's end and the general number's questions.
+        char const* q = p_ + 1;
+        std::uint64_t digitos = 0;
+        char const* const limite = fim_ - q > 19 ? q + 19 : fim_;
+        while (q != limite && digito(*q)) {
+            digitos = digitos * 10 + static_cast<std::uint64_t>(*q - '0');
+            ++q;
+        }
+        if (q != p_ + 1 && q != fim_ && *q == '"' && digitos <= static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
+            p_ = q + 1;
+            varint_de(campo, static_cast<T>(digitos));
+            return true;
+        }
         std::string_view vista;
         if (!texto(texto_, vista)) {
             return false;
@@ -1526,15 +1551,29 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
 template <class T>
 std::size_t leitor_json::por_nome<T>::espalhar(std::string_view nome)
 {
-    // The length and the bytes at both ends and in the middle tell the names
-    // of one message apart nearly always, at a few instructions.
+    // The first and the last word of the name, with its length: names of
+    // one message that differ only in a suffix or a prefix (grupo_icms_00,
+    // grupo_icms_01...) fall apart, at a few instructions and no loop.
     std::size_t const n = nome.size();
-    if (n == 0) {
-        return 0;
+    char const* const p = nome.data();
+    std::uint64_t a = 0;
+    std::uint64_t b = 0;
+    if (n >= 8) {
+        std::memcpy(&a, p, 8);
+        std::memcpy(&b, p + n - 8, 8);
+    } else if (n >= 4) {
+        std::uint32_t x;
+        std::uint32_t y;
+        std::memcpy(&x, p, 4);
+        std::memcpy(&y, p + n - 4, 4);
+        a = x;
+        b = y;
+    } else if (n > 0) {
+        a = static_cast<unsigned char>(p[0]) | (std::uint64_t{static_cast<unsigned char>(p[n / 2])} << 8) |
+            (std::uint64_t{static_cast<unsigned char>(p[n - 1])} << 16);
     }
-    auto const byte = [&](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(nome[i])); };
-    std::size_t const h = (n * 0x9E3779B1u) ^ (byte(0) << 3) ^ (byte(n - 1) << 9) ^ (byte(n / 2) << 15) ^ (byte(n > 1 ? 1 : 0) << 21);
-    return h ^ (h >> 11);
+    std::uint64_t const h = (a ^ std::rotl(b, 29) ^ n) * 0x9E3779B97F4A7C15u;
+    return static_cast<std::size_t>(h ^ (h >> 32));
 }
 
 template <class T>
