@@ -833,10 +833,15 @@ private:
             if (!valor_do_campo(*campo, oneofs, profundidade)) {
                 return false;
             }
-            // Mostly the comma right after the value.
+            // Mostly the comma right after the value; after the last, the
+            // gap before the closing brace, one step shorter than the keys'.
             if (p_ != fim_ && *p_ == ',') {
                 ++p_;
                 continue;
+            }
+            if (lacuna.passar_ao_fim(p_, fim_, passo_)) {
+                ++p_;
+                return true;
             }
             pular_espaco();
             if (p_ != fim_ && *p_ == ',') {
