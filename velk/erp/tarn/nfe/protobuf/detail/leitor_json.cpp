@@ -418,6 +418,7 @@ public:
         if (bytes_.size() < texto.size() / 2 + 64) {
             bytes_.resize(texto.size() / 2 + 64);
         }
+        apontar(0);
     }
 
     bool documento(Message& mensagem)
@@ -444,7 +445,7 @@ public:
         // occurrences of a field the same way (the last scalar kept, the
         // messages merged, the repeated appended, a oneof's last member
         // kept).
-        if (!mensagem.ParsePartialFromArray(bytes_.data(), static_cast<int>(usado_))) {
+        if (!mensagem.ParsePartialFromArray(inicio_saida_, static_cast<int>(usado()))) {
             return falha("the note does not fit its message");
         }
         return true;
@@ -466,17 +467,32 @@ private:
         return falha(std::string(campo.descritor->name()) + ": " + std::string(texto));
     }
 
-    // The binary form is written at the end of `bytes_`, whose first
-    // `usado_` bytes are taken; the rest is room, grown on demand.
+    // The binary form is written in `bytes_`, from `inicio_saida_` up to
+    // `saida_`; the rest, up to `fim_saida_`, is room, grown on demand. The
+    // pointers are kept here rather than asked of the string at each write.
     char* espaco_para(std::size_t n)
     {
-        if (bytes_.size() - usado_ < n) [[unlikely]] {
+        if (static_cast<std::size_t>(fim_saida_ - saida_) < n) [[unlikely]] {
             crescer(n);
         }
-        return bytes_.data() + usado_;
+        return saida_;
     }
 
-    [[gnu::noinline]] void crescer(std::size_t n) { bytes_.resize(std::max(bytes_.size() * 2, usado_ + n)); }
+    std::size_t usado() const { return static_cast<std::size_t>(saida_ - inicio_saida_); }
+
+    void apontar(std::size_t usado)
+    {
+        inicio_saida_ = bytes_.data();
+        saida_ = inicio_saida_ + usado;
+        fim_saida_ = inicio_saida_ + bytes_.size();
+    }
+
+    [[gnu::noinline]] void crescer(std::size_t n)
+    {
+        std::size_t const usados = usado();
+        bytes_.resize(std::max(bytes_.size() * 2, usados + n));
+        apontar(usados);
+    }
 
     // The room for a field's tag and `n` bytes more; the tag written.
     char* etiqueta_e_espaco(campo_lido const& campo, std::size_t n)
@@ -486,7 +502,7 @@ private:
         return p + campo.tamanho_etiqueta;
     }
 
-    void ate(char const* p) { usado_ = static_cast<std::size_t>(p - bytes_.data()); }
+    void ate(char* p) { saida_ = p; }
 
     void etiqueta(campo_lido const& campo) { ate(etiqueta_e_espaco(campo, 0)); }
 
@@ -518,9 +534,8 @@ private:
     // (the start of which is returned).
     std::size_t abrir(std::size_t reservados)
     {
-        espaco_para(reservados);
-        usado_ += reservados;
-        return usado_;
+        saida_ = espaco_para(reservados) + reservados;
+        return usado();
     }
 
     // The length of the message started at `comeco` set in the bytes kept
@@ -528,15 +543,15 @@ private:
     // padded varint), otherwise the message is moved to make room.
     void fechar(std::size_t comeco, std::size_t reservados)
     {
-        std::size_t tamanho = usado_ - comeco;
+        std::size_t tamanho = usado() - comeco;
         // The usual case: the length fits the bytes kept, one or two.
         if (tamanho < 128 && reservados == 1) {
-            bytes_[comeco - 1] = static_cast<char>(tamanho);
+            inicio_saida_[comeco - 1] = static_cast<char>(tamanho);
             return;
         }
         if (tamanho < 16384 && reservados == 2) {
-            bytes_[comeco - 2] = static_cast<char>(tamanho | 0x80);
-            bytes_[comeco - 1] = static_cast<char>(tamanho >> 7);
+            inicio_saida_[comeco - 2] = static_cast<char>(tamanho | 0x80);
+            inicio_saida_[comeco - 1] = static_cast<char>(tamanho >> 7);
             return;
         }
         std::size_t largura = 1;
@@ -547,11 +562,11 @@ private:
         if (largura > reservados) {
             std::size_t const mais = largura - reservados;
             espaco_para(mais);
-            std::memmove(bytes_.data() + comeco + mais, bytes_.data() + comeco, tamanho);
-            usado_ += mais;
+            std::memmove(inicio_saida_ + comeco + mais, inicio_saida_ + comeco, tamanho);
+            saida_ += mais;
             reservados = largura;
         }
-        char* p = bytes_.data() + posicao;
+        char* p = inicio_saida_ + posicao;
         for (std::size_t i = 1; i < reservados; ++i) {
             *p++ = static_cast<char>(tamanho | 0x80);
             tamanho >>= 7;
@@ -1447,7 +1462,9 @@ private:
     std::string motivo_;
     // The binary form of the note; see espaco_para.
     std::string& bytes_;
-    std::size_t usado_ = 0;
+    char* inicio_saida_ = nullptr;
+    char* saida_ = nullptr;
+    char* fim_saida_ = nullptr;
     // The gap before the keys of the object whose value is being read, and
     // the step of indentation of the text: see lacuna_repetida.
     lacuna_repetida const* mae_ = nullptr;
