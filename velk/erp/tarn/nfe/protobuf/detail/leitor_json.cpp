@@ -906,7 +906,7 @@ private:
     }
 
     // A message's value: an object, or the bare value of a wrapper.
-    bool mensagem_do_valor(campo_lido const& campo, int profundidade)
+    [[gnu::always_inline]] bool mensagem_do_valor(campo_lido const& campo, int profundidade)
     {
         tipo_lido const& tipo = *campo.mensagem;
         if (*p_ == '{') {
