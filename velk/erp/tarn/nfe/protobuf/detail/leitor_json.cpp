@@ -773,7 +773,7 @@ private:
         }
         __m128i const baixo = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p_));
         __m128i const alto = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p_ + 16));
-        for (int i = 0; i < 3 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
+        for (int i = 0; i < 5 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
             auto const* const chave = reinterpret_cast<__m128i const*>(proximo->chave.data());
             auto const iguais = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(baixo, chave[0]))) |
                                 (static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(alto, chave[1]))) << 16);
@@ -843,7 +843,7 @@ private:
                     return falha(std::string(chave_lida) + ": cannot find field");
                 }
             }
-            proximo = campo->seguinte;
+            proximo = campo->depois;
             mae_ = &lacuna;
             if (!valor_do_campo(*campo, oneofs, profundidade)) {
                 return false;
@@ -1585,6 +1585,12 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         }
     }
     novo.primeiro = seguinte;
+    for (campo& lido : novo.lista) {
+        lido.depois = lido.seguinte;
+        while (lido.oneof >= 0 && lido.depois != nullptr && lido.depois->oneof == lido.oneof) {
+            lido.depois = lido.depois->seguinte;
+        }
+    }
     for (campo& lido : novo.lista) {
         if (Descriptor const* tipo_mensagem = lido.descritor->message_type()) {
             lido.mensagem = &indexar(*tipo_mensagem);

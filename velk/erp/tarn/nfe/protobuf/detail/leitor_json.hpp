@@ -62,6 +62,9 @@ public:
         // number), as the keys of a note usually follow each other; null
         // for the last.
         campo const* seguinte = nullptr;
+        // Where the guesses go on after this field's value: `seguinte`, past
+        // the other members of its oneof, which a note does not set beside it.
+        campo const* depois = nullptr;
         google::protobuf::FieldDescriptor::CppType tipo_cpp{};
         google::protobuf::FieldDescriptor::Type tipo_campo{};
         // The field's tag in the binary form, as a varint of
