@@ -52,6 +52,13 @@ std::string produto(std::string const& dentro)
     return R"({"produtos": [{)" + dentro + "}]}";
 }
 
+// The text with a run of spaces before its last byte: room after its keys
+// for the reader's comparison of a whole block, which it makes only then.
+std::string com_folga(std::string texto)
+{
+    return texto.insert(texto.size() - 1, 40, ' ');
+}
+
 std::string endereco(std::string const& dentro)
 {
     return R"({"emitente": {"endereco": {)" + dentro + "}}}";
@@ -160,6 +167,13 @@ std::vector<std::string> const cantos = {
     R"({"modelo_emissao": "65", "seriex": "1"})", R"({"modelo_emissao": "65", "serie': "1"})",
     R"({"modelo_emissao": "65", 'serie': "1"})", R"({"modelo_emissao": "65", "serie)",
     R"({"modelo_emissao": "65", "se\u0072ie": "1"})",
+    com_folga(R"({"serie": "1", "modelo_emissao": "65"})"), com_folga(R"({"modelo_emissao": "65", "seri": "1"})"),
+    com_folga(R"({"modelo_emissao": "65", "seriex": "1"})"), com_folga(R"({"modelo_emissao": "65", "serie': "1"})"),
+    com_folga(R"({"modelo_emissao": "65", 'serie': "1"})"), com_folga(R"({"modelo_emissao": "65", "serie" : "1"})"),
+    com_folga(R"({"modelo_emissao": "65", "serie":"1"})"), com_folga(R"({"modelo_emissao":"65","serie":  "1"})"),
+    com_folga(produto(R"("grupo_icms_00": {}, "grupo_icms_10": {})")),
+    com_folga(produto(R"("grupo_icms_00": {}, "tributacao_pis_cofins": {}, "grupo_icms_10": {})")),
+    com_folga(R"({"emitente": {"cnpj": "1"}, "operacao_para_consumidor_final": "Sim", "numero": 1})"),
     // The text around the note.
     "", " ", "{", "{}", " {} ", "{ }", "null", "[]", "[1, 2]", "5", "\"x\"", "{}x", "{} {}", "{}}", R"({"numero": 1]})",
     "{\"numero\": 1}\v\f\r\n\t ", "\v{\"numero\": 1}", std::string("{\"numero\": 1}\0", 14), "{\r\"numero\"\t:\n1 , }",

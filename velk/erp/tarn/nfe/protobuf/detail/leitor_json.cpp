@@ -418,6 +418,7 @@ public:
         if (bytes_.size() < texto.size() / 2 + 64) {
             bytes_.resize(texto.size() / 2 + 64);
         }
+        apontar(0);
     }
 
     bool documento(Message& mensagem)
@@ -444,7 +445,7 @@ public:
         // occurrences of a field the same way (the last scalar kept, the
         // messages merged, the repeated appended, a oneof's last member
         // kept).
-        if (!mensagem.ParsePartialFromArray(bytes_.data(), static_cast<int>(usado_))) {
+        if (!mensagem.ParsePartialFromArray(inicio_saida_, static_cast<int>(usado()))) {
             return falha("the note does not fit its message");
         }
         return true;
@@ -466,17 +467,32 @@ private:
         return falha(std::string(campo.descritor->name()) + ": " + std::string(texto));
     }
 
-    // The binary form is written at the end of `bytes_`, whose first
-    // `usado_` bytes are taken; the rest is room, grown on demand.
+    // The binary form is written in `bytes_`, from `inicio_saida_` up to
+    // `saida_`; the rest, up to `fim_saida_`, is room, grown on demand. The
+    // pointers are kept here rather than asked of the string at each write.
     char* espaco_para(std::size_t n)
     {
-        if (bytes_.size() - usado_ < n) [[unlikely]] {
+        if (static_cast<std::size_t>(fim_saida_ - saida_) < n) [[unlikely]] {
             crescer(n);
         }
-        return bytes_.data() + usado_;
+        return saida_;
     }
 
-    [[gnu::noinline]] void crescer(std::size_t n) { bytes_.resize(std::max(bytes_.size() * 2, usado_ + n)); }
+    std::size_t usado() const { return static_cast<std::size_t>(saida_ - inicio_saida_); }
+
+    void apontar(std::size_t usado)
+    {
+        inicio_saida_ = bytes_.data();
+        saida_ = inicio_saida_ + usado;
+        fim_saida_ = inicio_saida_ + bytes_.size();
+    }
+
+    [[gnu::noinline]] void crescer(std::size_t n)
+    {
+        std::size_t const usados = usado();
+        bytes_.resize(std::max(bytes_.size() * 2, usados + n));
+        apontar(usados);
+    }
 
     // The room for a field's tag and `n` bytes more; the tag written.
     char* etiqueta_e_espaco(campo_lido const& campo, std::size_t n)
@@ -486,7 +502,7 @@ private:
         return p + campo.tamanho_etiqueta;
     }
 
-    void ate(char const* p) { usado_ = static_cast<std::size_t>(p - bytes_.data()); }
+    void ate(char* p) { saida_ = p; }
 
     void etiqueta(campo_lido const& campo) { ate(etiqueta_e_espaco(campo, 0)); }
 
@@ -518,9 +534,8 @@ private:
     // (the start of which is returned).
     std::size_t abrir(std::size_t reservados)
     {
-        espaco_para(reservados);
-        usado_ += reservados;
-        return usado_;
+        saida_ = espaco_para(reservados) + reservados;
+        return usado();
     }
 
     // The length of the message started at `comeco` set in the bytes kept
@@ -528,7 +543,17 @@ private:
     // padded varint), otherwise the message is moved to make room.
     void fechar(std::size_t comeco, std::size_t reservados)
     {
-        std::size_t tamanho = usado_ - comeco;
+        std::size_t tamanho = usado() - comeco;
+        // The usual case: the length fits the bytes kept, one or two.
+        if (tamanho < 128 && reservados == 1) {
+            inicio_saida_[comeco - 1] = static_cast<char>(tamanho);
+            return;
+        }
+        if (tamanho < 16384 && reservados == 2) {
+            inicio_saida_[comeco - 2] = static_cast<char>(tamanho | 0x80);
+            inicio_saida_[comeco - 1] = static_cast<char>(tamanho >> 7);
+            return;
+        }
         std::size_t largura = 1;
         while (largura < 10 && (tamanho >> (7 * largura)) != 0) {
             ++largura;
@@ -537,11 +562,11 @@ private:
         if (largura > reservados) {
             std::size_t const mais = largura - reservados;
             espaco_para(mais);
-            std::memmove(bytes_.data() + comeco + mais, bytes_.data() + comeco, tamanho);
-            usado_ += mais;
+            std::memmove(inicio_saida_ + comeco + mais, inicio_saida_ + comeco, tamanho);
+            saida_ += mais;
             reservados = largura;
         }
-        char* p = bytes_.data() + posicao;
+        char* p = inicio_saida_ + posicao;
         for (std::size_t i = 1; i < reservados; ++i) {
             *p++ = static_cast<char>(tamanho | 0x80);
             tamanho >>= 7;
@@ -735,6 +760,35 @@ private:
         return nullptr;
     }
 
+    // The field whose key, quoted and followed by its colon, is at `p_`,
+    // when it is one of the few that follow the last key (see
+    // chave_prevista), compared 32 bytes at once: then `p_` is past the
+    // colon. Null otherwise, with `p_` where it was; the general way then
+    // gives what it always gave.
+    campo_lido const* chave_e_dois_pontos(campo_lido const* proximo)
+    {
+#if defined(__SSE2__)
+        if (fim_ - p_ < 32) {
+            return nullptr;
+        }
+        __m128i const baixo = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p_));
+        __m128i const alto = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p_ + 16));
+        for (int i = 0; i < 5 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
+            auto const* const chave = reinterpret_cast<__m128i const*>(proximo->chave.data());
+            auto const iguais = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(baixo, chave[0]))) |
+                                (static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(alto, chave[1]))) << 16);
+            std::uint32_t const mascara = proximo->mascara_chave;
+            if (mascara != 0 && (iguais & mascara) == mascara) {
+                p_ += proximo->tamanho_chave;
+                return proximo;
+            }
+        }
+#else
+        (void)proximo;
+#endif
+        return nullptr;
+    }
+
     bool objeto(tipo_lido const& tipo, int profundidade)
     {
         if (profundidade > leitor_json::profundidade_maxima) {
@@ -765,15 +819,18 @@ private:
                 return true;
             }
             std::string_view chave_lida;
-            campo_lido const* campo = chave_prevista(proximo);
-            if (campo == nullptr && !chave(nome_, chave_lida)) {
-                return false;
+            campo_lido const* campo = chave_e_dois_pontos(proximo);
+            if (campo == nullptr) {
+                campo = chave_prevista(proximo);
+                if (campo == nullptr && !chave(nome_, chave_lida)) {
+                    return false;
+                }
+                pular_espaco();
+                if (p_ == fim_ || *p_ != ':') {
+                    return falha("expected : between key and value");
+                }
+                ++p_;
             }
-            pular_espaco();
-            if (p_ == fim_ || *p_ != ':') {
-                return falha("expected : between key and value");
-            }
-            ++p_;
             // Mostly a single space.
             if (fim_ - p_ >= 2 && p_[0] == ' ' && !espaco(p_[1])) {
                 ++p_;
@@ -786,10 +843,20 @@ private:
                     return falha(std::string(chave_lida) + ": cannot find field");
                 }
             }
-            proximo = campo->seguinte;
+            proximo = campo->depois;
             mae_ = &lacuna;
             if (!valor_do_campo(*campo, oneofs, profundidade)) {
                 return false;
+            }
+            // Mostly the comma right after the value; after the last, the
+            // gap before the closing brace, one step shorter than the keys'.
+            if (p_ != fim_ && *p_ == ',') {
+                ++p_;
+                continue;
+            }
+            if (lacuna.passar_ao_fim(p_, fim_, passo_)) {
+                ++p_;
+                return true;
             }
             pular_espaco();
             if (p_ != fim_ && *p_ == ',') {
@@ -839,7 +906,7 @@ private:
     }
 
     // A message's value: an object, or the bare value of a wrapper.
-    bool mensagem_do_valor(campo_lido const& campo, int profundidade)
+    [[gnu::always_inline]] bool mensagem_do_valor(campo_lido const& campo, int profundidade)
     {
         tipo_lido const& tipo = *campo.mensagem;
         if (*p_ == '{') {
@@ -1187,6 +1254,21 @@ private:
     template <class T>
     bool inteiro_entre_aspas(campo_lido const& campo, char const* comeco)
     {
+        // Mostly digits only, as the 64-bit numbers of a note are written,
+        // and then the closing quote: read as they go, without the scan for
+        // the string's end and the general number's questions.
+        char const* q = p_ + 1;
+        std::uint64_t digitos = 0;
+        char const* const limite = fim_ - q > 19 ? q + 19 : fim_;
+        while (q != limite && digito(*q)) {
+            digitos = digitos * 10 + static_cast<std::uint64_t>(*q - '0');
+            ++q;
+        }
+        if (q != p_ + 1 && q != fim_ && *q == '"' && digitos <= static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
+            p_ = q + 1;
+            varint_de(campo, static_cast<T>(digitos));
+            return true;
+        }
         std::string_view vista;
         if (!texto(texto_, vista)) {
             return false;
@@ -1380,7 +1462,9 @@ private:
     std::string motivo_;
     // The binary form of the note; see espaco_para.
     std::string& bytes_;
-    std::size_t usado_ = 0;
+    char* inicio_saida_ = nullptr;
+    char* saida_ = nullptr;
+    char* fim_saida_ = nullptr;
     // The gap before the keys of the object whose value is being read, and
     // the step of indentation of the text: see lacuna_repetida.
     lacuna_repetida const* mae_ = nullptr;
@@ -1471,6 +1555,15 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
     for (campo& lido : novo.lista) {
         if (novo.campos.achar(lido.descritor->name()) == &lido) {
             lido.nome = lido.descritor->name();
+            if (lido.nome.size() + 3 <= lido.chave.size()) {
+                lido.chave[0] = '"';
+                std::memcpy(lido.chave.data() + 1, lido.nome.data(), lido.nome.size());
+                lido.chave[lido.nome.size() + 1] = '"';
+                lido.chave[lido.nome.size() + 2] = ':';
+                std::size_t const largura = lido.nome.size() + 3;
+                lido.tamanho_chave = static_cast<unsigned char>(largura);
+                lido.mascara_chave = largura == 32 ? ~std::uint32_t{0} : (std::uint32_t{1} << largura) - 1;
+            }
             por_numero.push_back(&lido);
         }
     }
@@ -1492,6 +1585,12 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
         }
     }
     novo.primeiro = seguinte;
+    for (campo& lido : novo.lista) {
+        lido.depois = lido.seguinte;
+        while (lido.oneof >= 0 && lido.depois != nullptr && lido.depois->oneof == lido.oneof) {
+            lido.depois = lido.depois->seguinte;
+        }
+    }
     for (campo& lido : novo.lista) {
         if (Descriptor const* tipo_mensagem = lido.descritor->message_type()) {
             lido.mensagem = &indexar(*tipo_mensagem);
@@ -1526,15 +1625,29 @@ leitor_json::tipo& leitor_json::indexar(Descriptor const& descritor)
 template <class T>
 std::size_t leitor_json::por_nome<T>::espalhar(std::string_view nome)
 {
-    // The length and the bytes at both ends and in the middle tell the names
-    // of one message apart nearly always, at a few instructions.
+    // The first and the last word of the name, with its length: names of
+    // one message that differ only in a suffix or a prefix (grupo_icms_00,
+    // grupo_icms_01...) fall apart, at a few instructions and no loop.
     std::size_t const n = nome.size();
-    if (n == 0) {
-        return 0;
+    char const* const p = nome.data();
+    std::uint64_t a = 0;
+    std::uint64_t b = 0;
+    if (n >= 8) {
+        std::memcpy(&a, p, 8);
+        std::memcpy(&b, p + n - 8, 8);
+    } else if (n >= 4) {
+        std::uint32_t x;
+        std::uint32_t y;
+        std::memcpy(&x, p, 4);
+        std::memcpy(&y, p + n - 4, 4);
+        a = x;
+        b = y;
+    } else if (n > 0) {
+        a = static_cast<unsigned char>(p[0]) | (std::uint64_t{static_cast<unsigned char>(p[n / 2])} << 8) |
+            (std::uint64_t{static_cast<unsigned char>(p[n - 1])} << 16);
     }
-    auto const byte = [&](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(nome[i])); };
-    std::size_t const h = (n * 0x9E3779B1u) ^ (byte(0) << 3) ^ (byte(n - 1) << 9) ^ (byte(n / 2) << 15) ^ (byte(n > 1 ? 1 : 0) << 21);
-    return h ^ (h >> 11);
+    std::uint64_t const h = (a ^ std::rotl(b, 29) ^ n) * 0x9E3779B97F4A7C15u;
+    return static_cast<std::size_t>(h ^ (h >> 32));
 }
 
 template <class T>

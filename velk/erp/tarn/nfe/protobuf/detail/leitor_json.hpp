@@ -14,6 +14,7 @@
 #include <google/protobuf/message.h>
 
 #include <array>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -50,10 +51,20 @@ public:
         // empty when the lookup by that name finds another field (one whose
         // lowerCamelCase form it is), so that no guess is made with it.
         std::string_view nome;
+        // The key as a note's text writes it, quoted and followed by its
+        // colon, in two blocks of 16 bytes, and the mask of its
+        // `tamanho_chave` bytes: the text at a key compared with it at once.
+        // A mask of zero when the name is not `nome` or too long for it.
+        alignas(16) std::array<char, 32> chave{};
+        std::uint32_t mascara_chave = 0;
+        unsigned char tamanho_chave = 0;
         // The field that follows this one in the message's binary form (by
         // number), as the keys of a note usually follow each other; null
         // for the last.
         campo const* seguinte = nullptr;
+        // Where the guesses go on after this field's value: `seguinte`, past
+        // the other members of its oneof, which a note does not set beside it.
+        campo const* depois = nullptr;
         google::protobuf::FieldDescriptor::CppType tipo_cpp{};
         google::protobuf::FieldDescriptor::Type tipo_campo{};
         // The field's tag in the binary form, as a varint of
