@@ -14,6 +14,19 @@ namespace velk::core {
 inline namespace v3 {
 namespace detail {
 
+// Copies `size` bytes, from one to two words, as the first word and the last,
+// which overlap.
+template <class Word>
+[[gnu::always_inline]] inline void copy_by_two_words(char* target, char const* source, std::size_t size)
+{
+    Word first;
+    Word last;
+    std::memcpy(&first, source, sizeof(Word));
+    std::memcpy(&last, source + size - sizeof(Word), sizeof(Word));
+    std::memcpy(target, &first, sizeof(Word));
+    std::memcpy(target + size - sizeof(Word), &last, sizeof(Word));
+}
+
 // The same string as std::string(text); a long text is copied as usual.
 [[gnu::always_inline]] inline std::string short_string(std::string_view text)
 {
@@ -29,19 +42,9 @@ namespace detail {
     char const* const source = text.data();
     // Overlapping moves that read and write only the bytes of the text.
     if (size >= 8) {
-        std::uint64_t first;
-        std::uint64_t last;
-        std::memcpy(&first, source, 8);
-        std::memcpy(&last, source + size - 8, 8);
-        std::memcpy(target, &first, 8);
-        std::memcpy(target + size - 8, &last, 8);
+        copy_by_two_words<std::uint64_t>(target, source, size);
     } else if (size >= 4) {
-        std::uint32_t first;
-        std::uint32_t last;
-        std::memcpy(&first, source, 4);
-        std::memcpy(&last, source + size - 4, 4);
-        std::memcpy(target, &first, 4);
-        std::memcpy(target + size - 4, &last, 4);
+        copy_by_two_words<std::uint32_t>(target, source, size);
     } else if (size != 0) {
         target[0] = source[0];
         target[size / 2] = source[size / 2];
