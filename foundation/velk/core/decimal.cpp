@@ -1,6 +1,7 @@
 #include <velk/core/decimal.hpp>
 
 #include <velk/core/detail/decimal_text.hpp>
+#include <velk/core/detail/short_string.hpp>
 
 #include <algorithm>
 #include <string_view>
@@ -51,7 +52,7 @@ std::string decimal::to_string(unsigned int decimals, char separator) const
     detail::short_decimal_buffer buffer;
     if (std::string_view const text = detail::short_decimal_text(unscaled_, exponent_, decimals, separator, buffer);
         !text.empty()) {
-        return std::string(text);
+        return detail::short_string(text);
     }
     return detail::general_decimal_text(unscaled_, exponent_, decimals, separator);
 }

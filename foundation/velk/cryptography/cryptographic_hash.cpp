@@ -144,30 +144,59 @@ void cryptographic_hash::update(unsigned char const* data, std::size_t size)
     impl_->broken = EVP_DigestUpdate(impl_->context.get(), data, size) != 1;
 }
 
-core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
+namespace {
+
+// Finishes `context`, which is consumed, into a digest; code 9 when it fails.
+core::byte_array finish_context(EVP_MD_CTX* context, cryptographic_hash::algorithm value, core::result::stack& stack)
 {
-    if (impl_ == nullptr) {
-        core::result::fresh<cryptography_result_category::hash_failed>(stack, "", "objeto de hash vazio");
-        return {};
-    }
-    if (impl_->broken) {
-        core::result::fresh<cryptography_result_category::hash_failed>(stack, get_name(impl_->value),
-                                                                       detail::take_openssl_errors("EVP_DigestUpdate"));
-        return {};
-    }
-    // Finishing consumes a context: finish a copy so the running state stays.
-    detail::openssl_ptr<EVP_MD_CTX> copy(EVP_MD_CTX_new());
     unsigned char digest[EVP_MAX_MD_SIZE];
     unsigned int size = 0;
-    if (copy == nullptr || EVP_MD_CTX_copy_ex(copy.get(), impl_->context.get()) != 1 ||
-        EVP_DigestFinal_ex(copy.get(), digest, &size) != 1) {
+    if (context == nullptr || EVP_DigestFinal_ex(context, digest, &size) != 1) {
         core::result::fresh<cryptography_result_category::hash_failed>(
-            stack, get_name(impl_->value), detail::take_openssl_errors("EVP_DigestFinal_ex"));
+            stack, cryptographic_hash::get_name(value), detail::take_openssl_errors("EVP_DigestFinal_ex"));
         return {};
     }
     core::byte_array bytes;
     bytes.assign(digest, digest + size);
     return bytes;
+}
+
+}  // namespace
+
+bool cryptographic_hash::can_finish(core::result::stack& stack) const
+{
+    if (impl_ == nullptr) {
+        core::result::fresh<cryptography_result_category::hash_failed>(stack, "", "objeto de hash vazio");
+        return false;
+    }
+    if (impl_->broken) {
+        core::result::fresh<cryptography_result_category::hash_failed>(stack, get_name(impl_->value),
+                                                                       detail::take_openssl_errors("EVP_DigestUpdate"));
+        return false;
+    }
+    return true;
+}
+
+core::byte_array cryptographic_hash::finish(core::result::stack& stack) const
+{
+    if (!can_finish(stack)) {
+        return {};
+    }
+    // Finishing consumes a context: finish a copy so the running state stays.
+    detail::openssl_ptr<EVP_MD_CTX> copy(EVP_MD_CTX_new());
+    if (copy != nullptr && EVP_MD_CTX_copy_ex(copy.get(), impl_->context.get()) != 1) {
+        copy.reset();
+    }
+    return finish_context(copy.get(), impl_->value, stack);
+}
+
+core::byte_array cryptographic_hash::finish_once(core::result::stack& stack)
+{
+    if (!can_finish(stack)) {
+        return {};
+    }
+    std::unique_ptr<impl> const ended = std::move(impl_);
+    return finish_context(ended->context.get(), ended->value, stack);
 }
 
 }  // namespace v3

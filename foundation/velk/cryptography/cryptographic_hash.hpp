@@ -45,9 +45,17 @@ public:
     // The digest of everything fed so far (20 bytes for SHA-1). Fails with
     // code 9 on an empty hash or when OpenSSL failed along the way.
     core::byte_array finish(core::result::stack& stack) const;
+    // As finish, ending the running state instead of finishing a copy of it:
+    // the hash is empty afterwards. For the digest of one whole message,
+    // which saves the copy.
+    core::byte_array finish_once(core::result::stack& stack);
 
 private:
     struct impl;
+
+    // False, with the failure on the stack, when there is no digest to give.
+    bool can_finish(core::result::stack& stack) const;
+
     std::unique_ptr<impl> impl_;
 };
 

@@ -1,6 +1,7 @@
 #include <velk/xml/element.hpp>
 
 #include <velk/core/result/report.hpp>
+#include <velk/core/detail/short_string.hpp>
 #include <velk/xml/detail/element_access.hpp>
 #include <velk/xml/detail/namespace_uris.hpp>
 #include <velk/xml/detail/xml_names.hpp>
@@ -151,7 +152,7 @@ void element::impl::set_name(std::string name)
 
 element::impl::~impl() = default;
 
-element::impl::impl(std::string_view name) : qualified_name(name)
+element::impl::impl(std::string_view name) : qualified_name(core::detail::short_string(name))
 {
     std::string_view const local = detail::local_part_of(name);
     if (local.size() != name.size()) {

@@ -18,7 +18,11 @@ std::string hex_digest(algorithm value, std::string const& text)
     cryptographic_hash hash = cryptographic_hash::from_algorithm(value, stack);
     hash.update(text);
     core::byte_array const digest = hash.finish(stack);
+    // Ending the running state gives the same digest and leaves the hash empty.
+    EXPECT_EQ(hash.finish_once(stack), digest);
     EXPECT_FALSE(stack.has_failed()) << stack.to_string();
+    EXPECT_TRUE(hash.finish_once(stack).empty());
+    EXPECT_EQ(stack.get_value(), 9);
     return core::binary_encoder::encode(core::binary_encoding::hexadecimal, digest);
 }
 

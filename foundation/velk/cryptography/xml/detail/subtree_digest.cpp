@@ -22,7 +22,7 @@ core::byte_array digest_subtree(std::span<velk::xml::element const* const> ances
     if (!serializer.write(what, feed, stack)) {
         return {};
     }
-    return hash.finish(stack);
+    return hash.finish_once(stack);
 }
 
 }  // namespace detail

@@ -2,6 +2,7 @@
 
 #include <velk/core/converter.hpp>
 #include <velk/core/detail/digits.hpp>
+#include <velk/core/detail/short_string.hpp>
 #include <velk/core/result/report.hpp>
 #include <velk/erp/tarn/nfe/sefaz_data/result_category.hpp>
 
@@ -62,7 +63,8 @@ bool u(xml::element& pai, std::string_view tag, std::uint64_t valor, core::resul
     char* const inicio = valor == 0 ? fim - 1 : core::detail::write_digits(valor, fim);
     std::size_t const tamanho = static_cast<std::size_t>(fim - inicio);
     if (largura <= sizeof digitos) {
-        return txt(pai, tag, std::string(fim - std::max<std::size_t>(tamanho, largura), fim), stack);
+        std::size_t const escritos = std::max<std::size_t>(tamanho, largura);
+        return txt(pai, tag, core::detail::short_string(std::string_view(fim - escritos, escritos)), stack);
     }
     std::string texto(largura - tamanho, '0');
     texto.append(inicio, fim);

@@ -140,7 +140,7 @@ bool hash_qrcode(std::string const& texto, std::string const& csc, std::string& 
         cryptography::cryptographic_hash::from_algorithm(cryptography::cryptographic_hash::algorithm::sha1, local);
     sha1.update(texto);
     sha1.update(csc);
-    hash = core::binary_encoder::encode(core::binary_encoding::hexadecimal, sha1.finish(local));
+    hash = core::binary_encoder::encode(core::binary_encoding::hexadecimal, sha1.finish_once(local));
     if (hash.size() != hash_hexadecimal_length) {
         core::result::fresh<processo_gerar_qrcode_result_category::hash_invalido>(stack, hash);
         return false;
