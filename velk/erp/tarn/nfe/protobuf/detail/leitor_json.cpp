@@ -737,6 +737,10 @@ private:
         return true;
     }
 
+    // How many of the fields that follow the last key are tried as the
+    // next one, by both ways of comparing a key below.
+    static constexpr int chaves_previstas = 5;
+
     // The field whose name the quoted key at `p_` is, when it is one of the
     // few that follow the last key in the message's order, as in a note
     // written in that order: then the key is passed over, and neither
@@ -750,7 +754,7 @@ private:
         }
         char const aspa = *p_;
         auto const resta = static_cast<std::size_t>(fim_ - p_);
-        for (int i = 0; i < 3 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
+        for (int i = 0; i < chaves_previstas && proximo != nullptr; ++i, proximo = proximo->seguinte) {
             std::size_t const n = proximo->nome.size();
             if (n + 2 <= resta && p_[n + 1] == aspa && mesmos_bytes(p_ + 1, proximo->nome.data(), n)) {
                 p_ += n + 2;
@@ -773,7 +777,7 @@ private:
         }
         __m128i const baixo = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p_));
         __m128i const alto = _mm_loadu_si128(reinterpret_cast<__m128i const*>(p_ + 16));
-        for (int i = 0; i < 5 && proximo != nullptr; ++i, proximo = proximo->seguinte) {
+        for (int i = 0; i < chaves_previstas && proximo != nullptr; ++i, proximo = proximo->seguinte) {
             auto const* const chave = reinterpret_cast<__m128i const*>(proximo->chave.data());
             auto const iguais = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(baixo, chave[0]))) |
                                 (static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(alto, chave[1]))) << 16);
@@ -1264,7 +1268,8 @@ private:
             digitos = digitos * 10 + static_cast<std::uint64_t>(*q - '0');
             ++q;
         }
-        if (q != p_ + 1 && q != fim_ && *q == '"' && digitos <= static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
+        if (q != p_ + 1 && q != fim_ && *q == '"' &&
+            digitos <= static_cast<std::uint64_t>(std::numeric_limits<T>::max())) {
             p_ = q + 1;
             varint_de(campo, static_cast<T>(digitos));
             return true;

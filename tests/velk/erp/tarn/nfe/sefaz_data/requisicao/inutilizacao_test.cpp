@@ -69,9 +69,10 @@ TEST(inutilizacao, writes_the_range_with_its_identifier)
     estranha.justificativa = "Inutilização ok";  // 15 characters, 17 bytes
     velk::xml::element const outra = estranha.pedir(s).get_xml();
     ASSERT_FALSE(s.has_failed()) << s.to_string();
-    EXPECT_NE(velk::test::element_text(outra).find("<infInut Id=\"ID43240000000000019165001999999999000000001\"><tpAmb>1</tpAmb>"),
+    std::string const outra_text = velk::test::element_text(outra);
+    EXPECT_NE(outra_text.find("<infInut Id=\"ID43240000000000019165001999999999000000001\"><tpAmb>1</tpAmb>"),
               std::string::npos)
-        << velk::test::element_text(outra);
+        << outra_text;
 }
 
 TEST(inutilizacao, signed_it_passes_the_schema_and_an_independent_verifier)
